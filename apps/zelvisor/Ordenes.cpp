@@ -1,0 +1,98 @@
+#include "Ordenes.h"
+
+#include <QImageWriter>
+#include <array>
+#include <iostream>
+#include <sstream>
+
+#include "Carga.h"
+#include "control/Exportacion.h"
+#include "platform/Numeros.h"
+#include "session/Extension.h"
+
+namespace zel {
+
+namespace {
+
+constexpr int MAL_USO = 1;
+constexpr int ILEGIBLE = 2;
+
+// The schematic, or nothing after having said why on the standard error.
+EsquemaLeido LeeODilo(const QString& entrada) {
+    EsquemaLeido leido = LeeEsquema(entrada.toStdString());
+    if (!leido.elementos) {
+        std::cerr << "zelvisor: no se puede leer \"" << entrada.toStdString() << "\": " << leido.motivo
+                  << ".\nCompruebe la ruta y que el archivo es un esquema en XML.\n";
+    }
+    return leido;
+}
+
+void EscribeProblemas(const std::string& problemas) {
+    std::istringstream lineas(problemas);
+    for (std::string linea; std::getline(lineas, linea);) {
+        if (!linea.empty() && linea.back() == '\r') linea.pop_back();
+        if (!linea.empty()) std::cout << "  " << linea << '\n';
+    }
+}
+
+}  // namespace
+
+int Exporta(const QString& entrada, const QString& salida, const QString& ancho) {
+    bool esNumero = true;
+    const int pixeles = ancho.isEmpty() ? ANCHO_NORMAL_DE_IMAGEN : ancho.toInt(&esNumero);
+    if (!esNumero || pixeles < ANCHO_MINIMO_DE_IMAGEN || pixeles > ANCHO_MAXIMO_DE_IMAGEN) {
+        std::cerr << "zelvisor: el ancho ha de ser un número de píxeles entre " << ANCHO_MINIMO_DE_IMAGEN
+                  << " y " << ANCHO_MAXIMO_DE_IMAGEN << ".\n";
+        return MAL_USO;
+    }
+    if (!salida.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive)) {
+        std::cerr
+            << "zelvisor: la imagen se guarda en formato PNG; dé a la salida un nombre que acabe en .png.\n";
+        return MAL_USO;
+    }
+    const EsquemaLeido leido = LeeODilo(entrada);
+    if (!leido.elementos) return ILEGIBLE;
+    QStringList fallos;
+    const QImage imagen = ImagenDeEsquema(leido.elementos, true, pixeles, fallos);
+    QImageWriter escritor(salida, "png");
+    if (!escritor.write(imagen)) {
+        std::cerr << "zelvisor: no se puede escribir \"" << salida.toStdString()
+                  << "\". Compruebe que la carpeta existe y que puede escribir en ella.\n";
+        return MAL_USO;
+    }
+    for (const QString& fallo : fallos)
+        std::cerr << "zelvisor: no se ha podido dibujar: " << fallo.toStdString() << '\n';
+    return 0;
+}
+
+int Informa(const QString& entrada) {
+    const EsquemaLeido leido = LeeODilo(entrada);
+    if (!leido.elementos) return ILEGIBLE;
+    std::array<int, NUMERO_DE_TIPOS> porTipo{};
+    int desconocidos = 0;
+    for (const auto& e : *leido.elementos) {
+        if (TipoConocido(e->Tipo()))
+            ++porTipo[static_cast<std::size_t>(e->Tipo())];
+        else
+            ++desconocidos;
+    }
+    std::cout << "Archivo: " << entrada.toStdString() << "\nElementos: " << leido.elementos->Count() << '\n';
+    for (std::int32_t tipo = 0; tipo < NUMERO_DE_TIPOS; ++tipo) {
+        std::cout << "  " << NombreDeTipo(TipoElemento(tipo)) << ": "
+                  << porTipo[static_cast<std::size_t>(tipo)] << '\n';
+    }
+    if (desconocidos > 0) std::cout << "  De tipo desconocido: " << desconocidos << '\n';
+    if (const auto marco = ExtensionDe(*leido.elementos, 0)) {
+        std::cout << "Extensión: X de " << TextoDeNumero(marco->Xmin) << " a " << TextoDeNumero(marco->Xmax)
+                  << ", Y de " << TextoDeNumero(marco->Ymin) << " a " << TextoDeNumero(marco->Ymax) << '\n';
+    }
+    if (leido.problemas.empty()) {
+        std::cout << "Problemas de carga: ninguno\n";
+    } else {
+        std::cout << "Problemas de carga (también en ErroresCarga.log):\n";
+        EscribeProblemas(leido.problemas);
+    }
+    return 0;
+}
+
+}  // namespace zel

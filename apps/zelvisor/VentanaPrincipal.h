@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QMainWindow>
+
+class QLabel;
+
+namespace zel {
+
+class Esquema;
+
+// The program's window: the control, a menu and a status bar.
+class VentanaPrincipal : public QMainWindow {
+    Q_OBJECT
+  public:
+    VentanaPrincipal();
+
+    // Opens a file and shows the whole schematic. When it cannot be read a box says why and what was open
+    // stays.
+    void Abre(const QString& ruta);
+
+  protected:
+    void wheelEvent(QWheelEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+
+  private:
+    void CreaMenus();
+    void PreguntaYAbre();
+
+    Esquema* esquema_;
+    QLabel* region_;
+    bool leyendo_ = false;
+};
+
+}  // namespace zel

@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the program and opens a schematic in a window:  ./run.sh [FILE]
+# Where there is no display it renders the same picture to a PNG instead.
+set -euo pipefail
+raiz=$(cd "$(dirname "$0")" && pwd)
+esquema=$raiz/examples/cuenca.xml
+[ $# -eq 0 ] || esquema=$(realpath -m "$1")
+
+cd "$raiz"
+scripts/instala.sh
+cmake --preset release -DBUILD_TESTING=OFF -DZEL_BENCH=OFF >/dev/null
+cmake --build --preset release --target zelvisor
+
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    exec build/release/apps/zelvisor/zelvisor "$esquema"
+fi
+imagen=$PWD/salida/$(basename "${esquema%.*}").png
+mkdir -p salida
+build/release/apps/zelvisor/zelvisor exportar "$esquema" "$imagen"
+echo "No hay pantalla: la imagen del esquema está en $imagen"
+echo "Para abrir la ventana, ejecute ./run.sh en una sesión gráfica (o con: xvfb-run ./run.sh)."

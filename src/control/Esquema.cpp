@@ -1,0 +1,94 @@
+#include "control/Esquema.h"
+
+#include <QResizeEvent>
+
+#include "control/Panel.h"
+#include "drawing/Pintor.h"
+#include "session/Vista.h"
+
+namespace zel {
+
+struct Esquema::Partes : public Anfitrion {
+    explicit Partes(Esquema& dueno)
+        : esquema(dueno),
+          panel(new Panel(&dueno)),
+          refresco(panel->lienzo()),
+          avisos(trabajo, refresco),
+          vista(panel->lienzo(), documento, trabajo, refresco, avisos, *this) {
+        panel->lienzo().AlRefrescar([this] { Pinta(); });
+        QObject::connect(panel, &Panel::Redimensionado, &esquema, [this] { Dispone(); });
+    }
+
+    void TextoEstado(int panelDeEstado, const std::string& texto) override {
+        emit esquema.TextoEstado(panelDeEstado, QString::fromStdString(texto));
+    }
+
+    void Dispone() {
+        vista.Dispone(panel->AnchoMm(), panel->AltoMm());
+        refresco.RefrescarSiPendiente();
+    }
+
+    void Pinta() {
+        AjustesDibujo ajustes;
+        ajustes.iEstado = trabajo.iEstado;
+        ajustes.iTipoHerramienta = trabajo.iTipoHerramienta;
+        ajustes.EscalaDibujo = vista.EscalaDibujo();
+        ajustes.bVistaActualizada = true;
+        ajustes.bMostrarLineasOcultas = documento.bMostrarLineasOcultas;
+        QStringList nuevos;
+        for (const auto& descripcion :
+             PintaEsquema(panel->lienzo(), ajustes, *documento.colElementos, *documento.colElementos)) {
+            nuevos << QString::fromStdString(descripcion);
+        }
+        panel->update();
+        if (nuevos == fallos) return;
+        fallos = nuevos;
+        emit esquema.FallosDeDibujo(fallos);
+    }
+
+    Esquema& esquema;
+    Panel* panel;
+    Documento documento;
+    Trabajo trabajo;
+    Refresco refresco;
+    Avisos avisos;
+    Vista vista;
+    QStringList fallos;
+};
+
+Esquema::Esquema(QWidget* padre) : QWidget(padre), partes_(std::make_unique<Partes>(*this)) {}
+Esquema::~Esquema() = default;
+
+std::shared_ptr<Elementos> Esquema::GetElementos() const {
+    return partes_->documento.colElementos;
+}
+
+void Esquema::GetElementos(std::shared_ptr<Elementos> elementos) {
+    if (!elementos) throw Fallo(91);
+    partes_->documento.colElementos = std::move(elementos);
+    partes_->refresco.PedirRefresco();
+    partes_->refresco.RefrescarSiPendiente();
+}
+
+void Esquema::ResizeGrafo() {
+    partes_->vista.AjustarImagen(partes_->panel->lienzo(), 1);
+}
+
+void Esquema::CambiaZoom(double factor) {
+    Vista& vista = partes_->vista;
+    vista.AjustarZoomUsuario(partes_->panel->lienzo(), static_cast<float>(vista.Zoom() * factor), true, true,
+                             1);
+}
+
+void Esquema::DesplazaVista(double ancho, double alto) {
+    const Lienzo& panel = partes_->panel->lienzo();
+    partes_->vista.MueveScroll(panel.ScaleLeft() + panel.ScaleWidth() * static_cast<float>(0.5 + ancho),
+                               panel.ScaleTop() + panel.ScaleHeight() * static_cast<float>(0.5 - alto), 1);
+}
+
+void Esquema::resizeEvent(QResizeEvent* evento) {
+    QWidget::resizeEvent(evento);
+    partes_->panel->setGeometry(rect());
+}
+
+}  // namespace zel

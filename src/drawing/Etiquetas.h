@@ -1,0 +1,27 @@
+#pragma once
+
+#include "drawing/AjustesDibujo.h"
+#include "model/Elementos.h"
+
+namespace zel {
+
+// A label's box in world units, from its top left corner; Alto is negative, since Y grows upwards.
+struct CajaEtiqueta {
+    float X, Y;
+    float Ancho, Alto;
+};
+
+// The label's text size before rounding, in points: the plain one times EtiquetaTamanyo and, when the label
+// is relative, the element's size.
+float FactorEtiqueta(const Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e) noexcept;
+
+// The box of the element's label when the element stands at (X, Y). Leaves the panel with the label's font.
+CajaEtiqueta MideEtiqueta(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e, float X,
+                          float Y);
+
+// Prints the labels of a set of elements, in black; with bSoloSeleccionado, only the selected element's
+// when there is one.
+void DibujaEtiquetas(Superficie& panel, const AjustesDibujo& ajustes, const Elementos& elementos,
+                     bool bSoloSeleccionado, const Elemento* elemSeleccionado = nullptr);
+
+}  // namespace zel

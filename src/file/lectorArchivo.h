@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "file/Hallazgos.h"
+#include "model/Elementos.h"
+
+namespace zel {
+
+// Reads a schematic file into an element collection. Tolerant with what one element lacks or repeats: it
+// keeps the initial value, the problem goes to the load log, and a trace that cannot be read is rebuilt as
+// a straight one between the elements that it joins.
+class lectorArchivo {
+  public:
+    void NombreArchivo(std::string ruta) { nombreArchivo_ = std::move(ruta); }
+    const std::string& NombreArchivo() const noexcept { return nombreArchivo_; }
+
+    // The collection that Carga fills; it is not emptied first.
+    void Coleccion(std::shared_ptr<Elementos> destino) noexcept { coleccion_ = std::move(destino); }
+
+    // Called once per element read, so that a long load can let pending events through; without it the load
+    // runs in one go.
+    void AlCederTurno(std::function<void()> accion) { cedeTurno_ = std::move(accion); }
+
+    // Adds the elements of NombreArchivo to the collection. A file that cannot be read, that is not
+    // well-formed or that has no element adds nothing and raises nothing. Missing, incomplete and repeated
+    // children are written to "ErroresCarga.log" in the current directory. Anything else (a repeated code,
+    // a flag other than 0 and 1, a number out of range, more than 32767 elements) raises "Lector:Carga ";
+    // the elements read before it stay in the collection.
+    void Carga();
+
+    // Of the last Carga: why the file could not be read at all (empty when it could), and the text of its
+    // load log (empty when there was nothing to report).
+    const std::string& MotivoSinLeer() const noexcept { return motivo_; }
+    const std::string& Registro() const noexcept { return registro_; }
+
+  private:
+    struct Lectura;
+
+    const Hallazgos::Lista* AsignaPropiedad(const Hallazgos& hallazgos, Hijo hijo, std::int16_t esperados,
+                                            std::int16_t posicion, bool bSinAviso);
+    template <typename Tabla>
+    void LeeHijos(Lectura& lectura, Elemento& e, const Tabla& tabla);
+    void LeeElemento(Lectura& lectura, xmlNode* nodo);
+    void LeeTrazados(Lectura& lectura, Elemento& e);
+    void LeeTrazadosCentral(Lectura& lectura, Elemento& e);
+    std::shared_ptr<Puntos> LeeTrazado(Lectura& lectura, xmlNode* linea, const std::string& cual);
+    void RehaceTrazados(const std::vector<std::int32_t>& codigos);
+    void RehaceTrazados2(const std::vector<std::int32_t>& codigos);
+    std::shared_ptr<Elemento> ElementoDe(std::int32_t codigo) const;
+    std::string TextoDelRegistro() const;
+
+    std::string nombreArchivo_;
+    std::shared_ptr<Elementos> coleccion_;
+    std::function<void()> cedeTurno_;
+    std::string textoErrores_;
+    std::string textoAvisos_;
+    std::string motivo_;
+    std::string registro_;
+};
+
+}  // namespace zel

@@ -1,0 +1,90 @@
+#include "model/Elemento.h"
+
+#include "platform/Dialogos.h"
+
+namespace zel {
+
+namespace {
+
+constexpr float TAMANYO_MINIMO = 0.5F;
+constexpr float TAMANYO_MAXIMO = 33.0F;
+constexpr float ETIQUETA_MINIMA = 0.0002F;
+constexpr float ETIQUETA_MAXIMA = 4320.0F;
+
+// The usual texts: "Elemento:P Property Let" and "Elemento:P Property Get".
+#define FILA_USUAL(NOMBRE, CONVERSION)                                               \
+    ZEL_PROPIEDAD(Elemento, NOMBRE, CONVERSION, "Elemento:" #NOMBRE " Property Let", \
+                  "Elemento:" #NOMBRE " Property Get")
+#define FILA(NOMBRE, CONVERSION, ESCRITURA, LECTURA) \
+    ZEL_PROPIEDAD(Elemento, NOMBRE, CONVERSION, ESCRITURA, LECTURA)
+
+constexpr Propiedad<Elemento> TABLA[] = {
+    FILA_USUAL(ColorIcono, Entero32),
+    FILA_USUAL(ColorLinea, Entero32),
+    FILA(ConecSec1, Entero32, "ErrLetConecSec1 (Elemento)", "ErrGetConecSec1 (Elemento)"),
+    FILA(ConecSec2, Entero32, "ErrLetConecSec2 (Elemento)", "ErrGetConecSec2 (Elemento)"),
+    FILA_USUAL(ElemFin, Entero32),
+    FILA_USUAL(ElemIni, Entero32),
+    FILA(EtiquetaGiro, Real32, "ErrLetEtiquetaGiro (Elemento)", "ErrGetEtiquetaGiro (Elemento)"),
+    FILA_USUAL(EtiquetaMovida, Booleano),
+    FILA_USUAL(EtiquetaPosX, Real32),
+    FILA_USUAL(EtiquetaPosY, Real32),
+    FILA_USUAL(EtiquetaTamanyo, Real32),
+    FILA(EtiquetaTamanyoRelativo, Booleano, "ErrLetEtiquetaTamanyoRelativo (Elemento)",
+         "ErrGetEtiquetaTamanyoRelativo (Elemento)"),
+    FILA_USUAL(gfCodSIG, Entero32),
+    FILA_USUAL(KeyPant, Entero16),
+    FILA_USUAL(MostrarEtiqueta, Booleano),
+    FILA_USUAL(Nombre, Texto),
+    FILA_USUAL(Tamanyo, Real32),
+    {"Tipo", [](const Elemento& e) -> Variante { return std::int32_t{e.Tipo()}; },
+     [](Elemento& e, const Variante& v) { e.Tipo(static_cast<TipoElemento>(v.Entero32())); },
+     "Elemento:Tipo Property Let", "Elemento:Tipo Property Get"},
+    FILA(Trazado, Referencia<Puntos>, "Elemento:Trazado Property Set", "Elemento:Trazado Property Get"),
+    FILA(Trazado2, Referencia<Puntos>, "Elemento:Trazado2 Property Set", "Elemento:Trazado2 Property Get"),
+    FILA(Valor, Real32, "Elemento: Valor Property Let", "Elemento: Valor Property Get"),
+    FILA(XPos, Real32, "Elemento:xPos Property Let", "Elemento:xPos Property Get"),
+    FILA(YPos, Real32, "Elemento:yPos Property Let", "Elemento:yPos Property Get"),
+};
+
+#undef FILA
+#undef FILA_USUAL
+
+}  // namespace
+
+Elemento::Elemento() try {
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "Error en la inicialización del objeto Elemento");
+}
+
+template <typename Lectura>
+void Elemento::CopiaFilas(Lectura lee) {
+    try {
+        for (const auto& fila : TABLA)
+            EscribeFila(fila, *this, lee(fila));
+    } catch (...) {
+        dialogos().MsgBox(FalloEnCurso().Description());
+    }
+}
+
+void Elemento::CopiaPropiedades(const FuentePropiedades& Origen) {
+    CopiaFilas([&](const Propiedad<Elemento>& fila) { return Origen.Lee(fila.nombre); });
+}
+
+void Elemento::CopiaPropiedades(const Elemento& Origen) {
+    CopiaFilas([&](const Propiedad<Elemento>& fila) { return LeeFila(fila, Origen); });
+}
+
+void Elemento::Tamanyo(float valor) noexcept {
+    tamanyo_ = valor < TAMANYO_MINIMO ? TAMANYO_MINIMO : valor > TAMANYO_MAXIMO ? TAMANYO_MAXIMO : valor;
+}
+
+void Elemento::EtiquetaTamanyo(float valor) noexcept {
+    if (ETIQUETA_MINIMA <= valor && valor <= ETIQUETA_MAXIMA) etiquetaTamanyo_ = valor;
+}
+
+std::span<const Propiedad<Elemento>> Elemento::Propiedades() noexcept {
+    return TABLA;
+}
+
+}  // namespace zel

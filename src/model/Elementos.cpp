@@ -1,0 +1,117 @@
+#include "model/Elementos.h"
+
+#include "platform/Dialogos.h"
+
+namespace zel {
+
+Elementos::Elementos() try {
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "Error inicialización objeto Elementos");
+}
+
+template <typename Origen>
+void Elementos::AddCopia(const Origen& origen, const std::optional<Variante>& clave) try {
+    auto elemento = std::make_shared<Elemento>();
+    elemento->CopiaPropiedades(origen);
+    std::string texto = clave ? clave->Texto() : std::to_string(elemento->gfCodSIG());
+    if (texto.empty()) {
+        elementos_.Add(std::move(elemento));
+    } else {
+        elementos_.Add(std::move(elemento), std::move(texto));
+    }
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "Error método AddObjetoElemento (Elementos)");
+}
+
+void Elementos::AddObjetoElemento(const FuentePropiedades& aElemento,
+                                  const std::optional<Variante>& ClaveColeccion) {
+    AddCopia(aElemento, ClaveColeccion);
+}
+
+void Elementos::AddObjetoElemento(const Elemento& aElemento, const std::optional<Variante>& ClaveColeccion) {
+    AddCopia(aElemento, ClaveColeccion);
+}
+
+std::shared_ptr<Elemento> Elementos::Add(
+    TipoElemento aTipo, const std::string& aNombre, std::int32_t agfCodSig, std::int16_t aKeyPant,
+    float aXPos, float aYPos, std::int32_t aElemIni, std::int32_t aElemFin, std::shared_ptr<Puntos> aTrazado,
+    std::shared_ptr<Puntos> aTrazado2, const std::string& Identificador, float aEtPosX, float aEtPosY,
+    const std::optional<Variante>& aTamanyo, const std::optional<Variante>& aEtTamanyo,
+    const std::optional<Variante>& aColorIcono, const std::optional<Variante>& aColorLinea) try {
+    auto e = std::make_shared<Elemento>();
+    e->Tipo(aTipo);
+    e->Nombre(aNombre);
+    e->EtiquetaPosX(aEtPosX);
+    e->EtiquetaPosY(aEtPosY);
+    e->EtiquetaMovida(false);
+    if (aTamanyo) e->Tamanyo(aTamanyo->Real32());
+    if (aEtTamanyo) e->EtiquetaTamanyo(aEtTamanyo->Real32());
+    if (aColorIcono) e->ColorIcono(aColorIcono->Entero32());
+    if (aColorLinea) e->ColorLinea(aColorLinea->Entero32());
+    if (ItemCodSIG(agfCodSig)) {
+        dialogos().MsgBox("La colección de elementos ya contiene un elemento con codigo gfCodSIG " +
+                          std::to_string(agfCodSig));
+        return nullptr;
+    }
+    e->gfCodSIG(agfCodSig);
+    e->KeyPant(aKeyPant);
+    e->XPos(aXPos);
+    e->YPos(aYPos);
+    if (EsLineal(aTipo)) {
+        e->ElemIni(EmpiezaEnSiMismo(aTipo) ? e->gfCodSIG() : aElemIni);
+        e->ElemFin(aElemFin);
+        e->Trazado(std::move(aTrazado));
+        if (aTipo == ctCentralHidroelectrica) e->Trazado2(std::move(aTrazado2));
+    }
+    if (Identificador.empty()) {
+        elementos_.Add(e);
+    } else {
+        elementos_.Add(e, std::to_string(agfCodSig));
+    }
+    return e;
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "Error en método Add (Elementos)");
+}
+
+std::shared_ptr<Elemento> Elementos::Item(const Variante& vntIndexKey) const noexcept {
+    try {
+        return elementos_.Item(vntIndexKey);
+    } catch (...) {
+        return nullptr;
+    }
+}
+
+std::shared_ptr<Elemento> Elementos::ItemCodSIG(std::int32_t codigo) const noexcept {
+    try {
+        const auto* elemento = elementos_.Busca(std::to_string(codigo));
+        return elemento ? *elemento : nullptr;
+    } catch (...) {
+        return nullptr;
+    }
+}
+
+void Elementos::Remove(const Variante& vntIndexKey) try { elementos_.Remove(vntIndexKey); } catch (...) {
+    LanzaError(TEXTO_LIBRE, "Error Método Remove (Elementos)");
+}
+
+std::int32_t Elementos::RemoveCodSIG(std::int32_t codigo) try {
+    std::int32_t posicion = 0;
+    for (const auto& elemento : elementos_) {
+        ++posicion;
+        if (elemento->gfCodSIG() != codigo) continue;
+        elementos_.Remove(posicion);
+        return posicion;
+    }
+    return -1;
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "Error Método RemoveCodSIG (Elementos)");
+}
+
+std::shared_ptr<Punto> Elementos::PtoContorno(float A, float B, float C, float D,
+                                              std::optional<float> E) try {
+    return std::make_shared<Punto>(PuntoDelContorno(A, B, C, D, RadioSimbolo(E)));
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "ErrPtoContorno (Elementos)");
+}
+
+}  // namespace zel

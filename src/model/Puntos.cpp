@@ -1,0 +1,72 @@
+#include "model/Puntos.h"
+
+namespace zel {
+
+namespace {
+
+constexpr Propiedad<Puntos> TABLA[] = {
+    ZEL_PROPIEDAD(Puntos, Flecha, Booleano, "Error en Property Let Flecha (Puntos)",
+                  "Error en Property Get Flecha (Puntos)"),
+    ZEL_PROPIEDAD(Puntos, Valor, Real32, "Error en Property Let Valor (Puntos)", "ErrGetValor (Puntos)"),
+    ZEL_PROPIEDAD(Puntos, Valor2, Real32, "ErrLetValor2 (Puntos)", "ErrGetValor2 (Puntos)"),
+    ZEL_PROPIEDAD(Puntos, Valor3, Real32, "ErrLetValor3 (Puntos)", "ErrGetValor3 (Puntos)"),
+};
+
+bool SinClave(const std::optional<Variante>& clave) {
+    return !clave || clave->Texto().empty();
+}
+
+}  // namespace
+
+Puntos::Puntos() try {
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "ErrInitialize (Puntos)");
+}
+
+void Puntos::AddObjetoPunto(const std::shared_ptr<Punto>& aPunto, bool SoloCoordenadas,
+                            const std::optional<Variante>& ClaveColeccion) try {
+    if (!aPunto) throw Fallo(91);
+    auto punto = std::make_shared<Punto>();
+    if (SoloCoordenadas) {
+        punto->XPos(aPunto->XPos());
+        punto->YPos(aPunto->YPos());
+    } else {
+        punto->CopiaPropiedades(aPunto, false);
+    }
+    if (SinClave(ClaveColeccion)) {
+        puntos_.Add(std::move(punto));
+    } else {
+        puntos_.Add(std::move(punto), Variante(ClaveColeccion->Texto()));
+    }
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "Error en método AddObjetoPunto");
+}
+
+std::shared_ptr<Punto> Puntos::Add(float aXPos, float aYPos, float aValor,
+                                   const std::optional<Variante>& aClaveColeccion) try {
+    auto punto = std::make_shared<Punto>(aXPos, aYPos, aValor);
+    if (SinClave(aClaveColeccion)) {
+        puntos_.Add(punto);
+    } else {
+        puntos_.Add(punto, *aClaveColeccion);
+    }
+    return punto;
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "Error en método Add (Puntos)");
+}
+
+std::shared_ptr<Punto> Puntos::Item(const Variante& vntIndexKey) const try {
+    return puntos_.Item(vntIndexKey);
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "ErrGetItem (Puntos)");
+}
+
+void Puntos::Remove(const Variante& vntIndexKey) try { puntos_.Remove(vntIndexKey); } catch (...) {
+    LanzaError(TEXTO_LIBRE, "ErrRemove (Puntos)");
+}
+
+std::span<const Propiedad<Puntos>> Puntos::Propiedades() noexcept {
+    return TABLA;
+}
+
+}  // namespace zel

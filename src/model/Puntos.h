@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+
+#include "model/Punto.h"
+#include "platform/Coleccion.h"
+
+namespace zel {
+
+// A trace: its vertices in drawing order, from the start element towards the end element, positions from 1.
+// A vertex may have a key, unique within the trace without regard to case.
+class Puntos : public Objeto {
+  public:
+    Puntos();
+
+    // Working attributes of the trace while it is edited; the model gives them no meaning and files do not
+    // store them.
+    void Flecha(bool valor) noexcept { flecha_ = valor; }
+    bool Flecha() const noexcept { return flecha_; }
+    void Valor(float valor) noexcept { valor_ = valor; }
+    float Valor() const noexcept { return valor_; }
+    void Valor2(float valor) noexcept { valor2_ = valor; }
+    float Valor2() const noexcept { return valor2_; }
+    void Valor3(float valor) noexcept { valor3_ = valor; }
+    float Valor3() const noexcept { return valor3_; }
+
+    // Appends a copy of aPunto, never aPunto itself. An empty key means none; any other is converted to its
+    // text. Raises when there is no aPunto or the key is taken, and then appends nothing.
+    void AddObjetoPunto(const std::shared_ptr<Punto>& aPunto, bool SoloCoordenadas = false,
+                        const std::optional<Variante>& ClaveColeccion = std::nullopt);
+
+    // Appends a new point and returns it. An empty key means none; any other has to be a text.
+    std::shared_ptr<Punto> Add(float aXPos, float aYPos, float aValor = 0,
+                               const std::optional<Variante>& aClaveColeccion = std::nullopt);
+
+    // The point at a position or under a key. Raises when there is none.
+    std::shared_ptr<Punto> Item(const Variante& vntIndexKey) const;
+    std::int32_t Count() const noexcept { return puntos_.Count(); }
+    // Removes the point at a position or under a key; later points move up. Raises when there is none.
+    void Remove(const Variante& vntIndexKey);
+
+    auto begin() const noexcept { return puntos_.begin(); }
+    auto end() const noexcept { return puntos_.end(); }
+
+    // The table for access by name: Flecha, Valor, Valor2, Valor3.
+    static std::span<const Propiedad<Puntos>> Propiedades() noexcept;
+
+  private:
+    Coleccion<std::shared_ptr<Punto>> puntos_;
+    bool flecha_ = false;
+    float valor_ = 0;
+    float valor2_ = 0;
+    float valor3_ = 0;
+};
+
+}  // namespace zel

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zel {
+
+// A path split behind its last "\" or "/": the folder with its trailing separator (empty when there is
+// none) and the file name.
+struct RutaPartida {
+    std::string carpeta;
+    std::string nombre;
+};
+RutaPartida ParteRuta(std::string_view ruta);
+
+// The text in ISO-8859-1; a character outside it becomes "?".
+std::string Latin1(std::string_view utf8);
+
+// Writes a diagnostic log in the current directory, replacing an earlier one: the text in ISO-8859-1
+// between double quotes, then a line break. Inner quotes are not doubled.
+// Fails with the number of the system's reason (70 permission, 61 disk full, 75 ...).
+void EscribeRegistro(const std::string& nombre, std::string_view texto);
+
+}  // namespace zel

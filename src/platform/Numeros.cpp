@@ -1,0 +1,154 @@
+#include "platform/Numeros.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "platform/Fallo.h"
+
+namespace zel {
+
+namespace {
+
+constexpr std::string_view BLANCOS = " \t\r\n\f\v";
+
+bool EsCifra(char c) noexcept {
+    return c >= '0' && c <= '9';
+}
+
+std::size_t SaltaCifras(std::string_view texto, std::size_t i) noexcept {
+    while (i < texto.size() && EsCifra(texto[i]))
+        ++i;
+    return i;
+}
+
+struct Tramo {
+    bool negativo = false;
+    std::string_view cifras;  // without the sign; empty when the text does not begin with a number
+    std::size_t fin = 0;      // first position after the number
+};
+
+Tramo BuscaNumero(std::string_view texto) noexcept {
+    Tramo tramo;
+    std::size_t i = texto.find_first_not_of(BLANCOS);
+    if (i == std::string_view::npos) return tramo;
+    if (texto[i] == '-' || texto[i] == '+') tramo.negativo = texto[i++] == '-';
+    const std::size_t inicio = i;
+    i = SaltaCifras(texto, i);
+    std::size_t cifras = i - inicio;
+    if (i < texto.size() && texto[i] == '.') {
+        const std::size_t tras = SaltaCifras(texto, i + 1);
+        cifras += tras - (i + 1);
+        i = tras;
+    }
+    if (cifras == 0) return tramo;
+    if (i < texto.size() && (texto[i] == 'e' || texto[i] == 'E')) {
+        std::size_t j = i + 1;
+        if (j < texto.size() && (texto[j] == '-' || texto[j] == '+')) ++j;
+        if (const std::size_t fin = SaltaCifras(texto, j); fin > j) i = fin;
+    }
+    tramo.cifras = texto.substr(inicio, i - inicio);
+    tramo.fin = i;
+    return tramo;
+}
+
+// True when a number that from_chars could not represent is too small rather than too large.
+bool EsDiminuto(std::string_view cifras) noexcept {
+    const std::size_t e = cifras.find_first_of("eE");
+    const std::string_view mantisa = cifras.substr(0, e);
+    const std::size_t primera = mantisa.find_first_not_of("0.");
+    if (primera == std::string_view::npos) return true;
+    if (e != std::string_view::npos) {
+        // A digit string this long decides by its exponent's sign alone unless it is absurdly balanced.
+        return cifras[e + 1] == '-';
+    }
+    const std::size_t punto = mantisa.find('.');
+    return punto != std::string_view::npos && primera > punto;
+}
+
+template <typename T>
+T Valor(const Tramo& tramo) {
+    if (tramo.cifras.empty()) return 0;
+    T valor = 0;
+    const auto [fin, error] =
+        std::from_chars(tramo.cifras.data(), tramo.cifras.data() + tramo.cifras.size(), valor);
+    if (error == std::errc::result_out_of_range) {
+        if (!EsDiminuto(tramo.cifras)) throw Fallo(6);
+        valor = 0;
+    }
+    return tramo.negativo ? -valor : valor;
+}
+
+template <typename T>
+std::string Texto(T valor) {
+    if (valor == 0) return "0";
+    const T absoluto = std::abs(valor);
+    const bool llano = absoluto >= T(1e-5) && absoluto < T(1e15);
+    std::array<char, 64> memoria{};
+    const auto resultado = std::to_chars(memoria.data(), memoria.data() + memoria.size(), valor,
+                                         llano ? std::chars_format::fixed : std::chars_format::scientific);
+    return {memoria.data(), resultado.ptr};
+}
+
+}  // namespace
+
+std::string TextoDeNumero(float valor) {
+    return Texto(valor);
+}
+std::string TextoDeNumero(double valor) {
+    return Texto(valor);
+}
+std::string TextoDeNumero(std::int32_t valor) {
+    return std::to_string(valor);
+}
+
+double NumeroInicial(std::string_view texto) {
+    return Valor<double>(BuscaNumero(texto));
+}
+float RealInicial(std::string_view texto) {
+    return Valor<float>(BuscaNumero(texto));
+}
+
+std::optional<double> NumeroCompleto(std::string_view texto) {
+    const Tramo tramo = BuscaNumero(texto);
+    if (tramo.cifras.empty()) return std::nullopt;
+    if (texto.find_first_not_of(BLANCOS, tramo.fin) != std::string_view::npos) return std::nullopt;
+    return Valor<double>(tramo);
+}
+
+double RedondeaPar(double valor) noexcept {
+    const double abajo = std::floor(valor);
+    const double resto = valor - abajo;
+    if (resto < 0.5) return abajo;
+    if (resto > 0.5) return abajo + 1;
+    return std::fmod(abajo, 2.0) == 0.0 ? abajo : abajo + 1;
+}
+
+std::int16_t Entero16(double valor) {
+    const double redondo = RedondeaPar(valor);
+    if (!(redondo >= -32768.0 && redondo <= 32767.0)) throw Fallo(6);
+    return static_cast<std::int16_t>(redondo);
+}
+
+std::int32_t Entero32(double valor) {
+    const double redondo = RedondeaPar(valor);
+    if (!(redondo >= -2147483648.0 && redondo <= 2147483647.0)) throw Fallo(6);
+    return static_cast<std::int32_t>(redondo);
+}
+
+float Real32(double valor) {
+    const auto real = static_cast<float>(valor);
+    if (std::isinf(real) && !std::isinf(valor)) throw Fallo(6);
+    return real;
+}
+
+std::int16_t Estrecha16(std::int64_t valor) {
+    if (valor < std::numeric_limits<std::int16_t>::min() ||
+        valor > std::numeric_limits<std::int16_t>::max()) {
+        throw Fallo(6);
+    }
+    return static_cast<std::int16_t>(valor);
+}
+
+}  // namespace zel

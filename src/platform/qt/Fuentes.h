@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QFont>
+#include <QGlyphRun>
+#include <QPainter>
+#include <QRawFont>
+#include <QString>
+#include <array>
+#include <map>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace zel {
+
+// The text of a drawing surface at one size. Latin texts are laid out glyph by glyph from a table, without
+// kerning and without hinting, so that widths grow evenly with the size; any other text goes through Qt's
+// own layout.
+class FuenteDeTexto {
+  public:
+    // `alto` in device pixels (the font's size, not its line height).
+    FuenteDeTexto(const QString& familia, double alto);
+
+    // Device pixels. A line break in the text begins a new line.
+    double Ancho(std::string_view texto) const;
+    double Alto(std::string_view texto) const;
+    void Pinta(QPainter& pintor, QPointF esquina, const QColor& color, std::string_view texto);
+
+  private:
+    struct Glifo {
+        quint32 indice = 0;
+        double avance = 0;
+    };
+
+    // The glyphs of one line, or nothing when some character is not in the table.
+    bool Compone(std::string_view linea);
+    double AnchoDeLinea(std::string_view linea) const;
+
+    QFont fuente_;
+    QRawFont cruda_;
+    double ascenso_;
+    double altoDeLinea_;
+    std::array<Glifo, 256> latinos_;
+    QGlyphRun tirada_;
+    std::vector<quint32> indices_;
+    std::vector<QPointF> lugares_;
+};
+
+// The sizes in use.
+class Fuentes {
+  public:
+    explicit Fuentes(QString familia) : familia_(std::move(familia)) {}
+    FuenteDeTexto& De(double alto);
+
+  private:
+    QString familia_;
+    std::map<double, std::unique_ptr<FuenteDeTexto>> porAlto_;
+};
+
+}  // namespace zel

@@ -1,0 +1,303 @@
+#include "platform/qt/Lienzo.h"
+
+#include <QPen>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "platform/Fallo.h"
+
+namespace zel {
+
+namespace {
+
+constexpr double PIXELES_POR_PUNTO = 96.0 / 72.0;
+constexpr int PIXELES_POR_METRO = 3780;  // 96 to the inch
+// Beyond this the rasterizer is not exact any more; strokes are cut there.
+constexpr double LEJOS = 30000;
+
+QColor ColorQt(std::int32_t color) {
+    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
+}
+
+// In units of the pen's width.
+QList<qreal> Trazos(std::int16_t estilo) {
+    switch (estilo) {
+        case Superficie::ESTILO_TRAZOS:
+            return {7, 4};
+        case Superficie::ESTILO_TRAZO_PUNTO:
+            return {8, 3, 2, 3};
+        case Superficie::ESTILO_TRAZO_PUNTO_PUNTO:
+            return {8, 3, 2, 3, 2, 3};
+        default:
+            return {};
+    }
+}
+
+QPainter::CompositionMode ModoDeComposicion(bool invierte) noexcept {
+    return invierte ? QPainter::RasterOp_NotDestination : QPainter::CompositionMode_SourceOver;
+}
+
+bool EstaLejos(QPointF p) noexcept {
+    return std::abs(p.x()) > LEJOS || std::abs(p.y()) > LEJOS;
+}
+
+// The part of a segment inside the square of half side LEJOS; false when there is none.
+bool Recorta(QPointF& a, QPointF& b) noexcept {
+    double desde = 0;
+    double hasta = 1;
+    const QPointF d = b - a;
+    const auto limita = [&](double p, double q) {
+        if (p == 0) return q >= 0;
+        const double t = q / p;
+        if (p < 0)
+            desde = std::max(desde, t);
+        else
+            hasta = std::min(hasta, t);
+        return desde <= hasta;
+    };
+    if (!limita(-d.x(), a.x() + LEJOS) || !limita(d.x(), LEJOS - a.x()) || !limita(-d.y(), a.y() + LEJOS) ||
+        !limita(d.y(), LEJOS - a.y())) {
+        return false;
+    }
+    b = a + d * hasta;
+    a += d * desde;
+    return true;
+}
+
+}  // namespace
+
+Lienzo::Lienzo(QSize tamanyo, double relacion) {
+    Redimensiona(tamanyo, relacion);
+}
+
+void Lienzo::Redimensiona(QSize tamanyo, double relacion) {
+    const QSize logico = tamanyo.expandedTo({1, 1});
+    const QSize real(std::max(1, qRound(logico.width() * relacion)),
+                     std::max(1, qRound(logico.height() * relacion)));
+    QImage nueva(real, QImage::Format_RGB32);
+    if (nueva.isNull()) throw Fallo(7);
+    nueva.setDotsPerMeterX(PIXELES_POR_METRO);
+    nueva.setDotsPerMeterY(PIXELES_POR_METRO);
+    nueva.fill(Qt::white);
+    if (pintor_.isActive()) pintor_.end();
+    imagen_ = std::move(nueva);
+    pintor_.begin(&imagen_);
+    tamanyo_ = logico;
+    relacion_ = relacion;
+    hayPlumaPuesta_ = false;
+    fuente_ = nullptr;
+    puntos_.clear();
+}
+
+const QImage& Lienzo::Imagen() {
+    AsientaPuntos();
+    return imagen_;
+}
+
+float Lienzo::AnchoDePixel() const {
+    return static_cast<float>(double{ScaleWidth()} / tamanyo_.width());
+}
+
+QPointF Lienzo::EnPixeles(PuntoXY punto) const noexcept {
+    return {(double{punto.X} - ScaleLeft()) * PixelesPorUnidadX(),
+            (double{punto.Y} - ScaleTop()) * PixelesPorUnidadY()};
+}
+
+double Lienzo::AnchoDePluma() const noexcept {
+    return std::max(1.0, std::round(pluma().DrawWidth * relacion_));
+}
+
+void Lienzo::PonPluma() {
+    AsientaPuntos();
+    if (hayPlumaPuesta_ && puesta_ == pluma()) return;
+    puesta_ = pluma();
+    hayPlumaPuesta_ = true;
+    const bool negro = puesta_.DrawMode == MODO_NEGRO;
+    const QColor color = negro ? QColor(Qt::black) : ColorQt(puesta_.ForeColor);
+    QPen pluma(color, AnchoDePluma());
+    // One device pixel is a cosmetic pen's width, which Qt draws much faster.
+    pluma.setCosmetic(true);
+    const bool solida = puesta_.DrawStyle == ESTILO_SOLIDO || puesta_.DrawWidth > 1;
+    if (solida) {
+        pluma.setCapStyle(puesta_.DrawWidth > 1 ? Qt::RoundCap : Qt::SquareCap);
+    } else {
+        pluma.setCapStyle(Qt::FlatCap);
+        pluma.setDashPattern(Trazos(puesta_.DrawStyle));
+    }
+    pluma.setJoinStyle(Qt::RoundJoin);
+    pintor_.setPen(pluma);
+    if (puesta_.FillStyle == RELLENO_SOLIDO) {
+        pintor_.setBrush(negro ? QColor(Qt::black) : ColorQt(puesta_.FillColor));
+    } else {
+        pintor_.setBrush(Qt::NoBrush);
+    }
+    pintor_.setRenderHint(QPainter::Antialiasing, !Invierte());
+    pintor_.setCompositionMode(ModoDeComposicion(Invierte()));
+}
+
+// Moves horizontal and vertical segments onto whole pixels, so that they come out crisp.
+void Lienzo::Ajusta(std::vector<QPointF>& puntos) const {
+    const bool impar = static_cast<int>(AnchoDePluma()) % 2 == 1;
+    const auto alPixel = [&](double v) { return impar ? std::floor(v) + 0.5 : std::round(v); };
+    for (std::size_t i = 1; i < puntos.size(); ++i) {
+        QPointF& a = puntos[i - 1];
+        QPointF& b = puntos[i];
+        if (std::abs(a.y() - b.y()) < 1e-3) {
+            const double y = alPixel(a.y());
+            a.setY(y);
+            b.setY(y);
+        } else if (std::abs(a.x() - b.x()) < 1e-3) {
+            const double x = alPixel(a.x());
+            a.setX(x);
+            b.setX(x);
+        }
+    }
+}
+
+// Draws the stroke in hand with the pen.
+void Lienzo::Traza() {
+    PonPluma();
+    const auto n = static_cast<int>(cadena_.size());
+    if (n < 2) return;
+    if (std::any_of(cadena_.begin(), cadena_.end(), EstaLejos)) {
+        TrazaLejana();
+        return;
+    }
+    if (n == 2) {
+        pintor_.drawLine(cadena_[0], cadena_[1]);
+    } else if (cadena_.front() == cadena_.back()) {
+        const QBrush relleno = pintor_.brush();
+        if (relleno.style() != Qt::NoBrush) pintor_.setBrush(Qt::NoBrush);
+        pintor_.drawPolygon(cadena_.data(), n - 1);
+        if (relleno.style() != Qt::NoBrush) pintor_.setBrush(relleno);
+    } else {
+        pintor_.drawPolyline(cadena_.data(), n);
+    }
+}
+
+void Lienzo::TrazaLejana() {
+    for (std::size_t i = 1; i < cadena_.size(); ++i) {
+        QPointF a = cadena_[i - 1];
+        QPointF b = cadena_[i];
+        if (Recorta(a, b)) pintor_.drawLine(a, b);
+    }
+}
+
+void Lienzo::Line(std::span<const PuntoXY> cadena) {
+    cadena_.clear();
+    for (const PuntoXY punto : cadena)
+        cadena_.push_back(EnPixeles(punto));
+    // A closed chain stays closed when its ends move onto pixels.
+    const bool cerrada = cadena.size() > 2 && cadena_.front() == cadena_.back();
+    Ajusta(cadena_);
+    if (cerrada) cadena_.back() = cadena_.front();
+    Traza();
+}
+
+void Lienzo::Caja(PuntoXY esquina, PuntoXY opuesta) {
+    PonPluma();
+    const QRectF caja = QRectF(EnPixeles(esquina), EnPixeles(opuesta))
+                            .normalized()
+                            .intersected(QRectF(-LEJOS, -LEJOS, 2 * LEJOS, 2 * LEJOS));
+    if (caja.isEmpty() && caja.width() <= 0 && caja.height() <= 0) return;
+    if (pluma().FillStyle == RELLENO_SOLIDO) {
+        const QRect entera(QPoint(qRound(caja.left()), qRound(caja.top())),
+                           QPoint(qRound(caja.right()), qRound(caja.bottom())));
+        pintor_.fillRect(entera, pintor_.brush());
+        if (Invierte()) return;
+    }
+    cadena_ = {caja.topLeft(), caja.topRight(), caja.bottomRight(), caja.bottomLeft(), caja.topLeft()};
+    Ajusta(cadena_);
+    cadena_.back() = cadena_.front();
+    Traza();
+}
+
+void Lienzo::Circle(PuntoXY centro, float radio) {
+    Circle(centro, radio, 0, 2 * std::numbers::pi);
+}
+
+void Lienzo::Circle(PuntoXY centro, float radio, double inicio, double fin) {
+    if (fin < inicio) fin += 2 * std::numbers::pi;
+    const QPointF c = EnPixeles(centro);
+    const double r = radio * PixelesPorUnidadX();
+    const bool entero = fin - inicio >= 2 * std::numbers::pi;
+    // As many sides as keep the polygon within a twelfth of a pixel of the circle.
+    const double paso = 2 * std::acos(1 - std::min(1.0, 1.0 / 12 / std::max(r, 1.0 / 12)));
+    const int lados = std::clamp(static_cast<int>(std::ceil((fin - inicio) / paso)), 3, 720);
+    cadena_.clear();
+    for (int i = 0; i <= lados; ++i) {
+        const double angulo = inicio + (fin - inicio) * i / lados;
+        cadena_.emplace_back(c.x() + r * std::cos(angulo), c.y() - r * std::sin(angulo));
+    }
+    if (entero) cadena_.back() = cadena_.front();
+    if (entero && pluma().FillStyle == RELLENO_SOLIDO) {
+        PonPluma();
+        const QPen pluma = pintor_.pen();
+        pintor_.setPen(Qt::NoPen);
+        pintor_.drawPolygon(cadena_.data(), lados);
+        pintor_.setPen(pluma);
+        if (Invierte()) return;
+    }
+    Traza();
+}
+
+void Lienzo::PSet(PuntoXY punto, std::int32_t color) {
+    const std::int32_t negroOColor = pluma().DrawMode == MODO_NEGRO ? 0 : color;
+    if (negroOColor != colorDePuntos_ || Invierte() != puntosInvierten_) AsientaPuntos();
+    colorDePuntos_ = negroOColor;
+    puntosInvierten_ = Invierte();
+    puntos_.push_back(EnPixeles(punto));
+}
+
+// Draws the dots that are waiting.
+void Lienzo::AsientaPuntos() {
+    if (puntos_.empty()) return;
+    pintor_.setCompositionMode(ModoDeComposicion(puntosInvierten_));
+    pintor_.setRenderHint(QPainter::Antialiasing, false);
+    pintor_.setPen(
+        QPen(ColorQt(colorDePuntos_), std::max(1.0, std::round(relacion_)), Qt::SolidLine, Qt::SquareCap));
+    pintor_.drawPoints(puntos_.data(), static_cast<int>(puntos_.size()));
+    puntos_.clear();
+    hayPlumaPuesta_ = false;
+}
+
+void Lienzo::Cls() {
+    puntos_.clear();
+    hayPlumaPuesta_ = false;
+    pintor_.setCompositionMode(QPainter::CompositionMode_Source);
+    pintor_.fillRect(imagen_.rect(), Qt::white);
+}
+
+void Lienzo::Refresh() {
+    if (alRefrescar_) alRefrescar_();
+}
+
+FuenteDeTexto& Lienzo::Fuente() {
+    if (!fuente_ || puntosDeFuente_ != FontSize()) {
+        puntosDeFuente_ = FontSize();
+        fuente_ = &fuentes_.De(puntosDeFuente_ * PIXELES_POR_PUNTO * relacion_);
+    }
+    return *fuente_;
+}
+
+void Lienzo::Print(std::string_view texto) {
+    AsientaPuntos();
+    pintor_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    hayPlumaPuesta_ = false;
+    Fuente().Pinta(pintor_, EnPixeles({CurrentX(), CurrentY()}), ColorQt(pluma().ForeColor), texto);
+}
+
+float Lienzo::TextWidth(std::string_view texto) {
+    return static_cast<float>(Fuente().Ancho(texto) / PixelesPorUnidadX());
+}
+
+float Lienzo::TextHeight(std::string_view texto) {
+    return static_cast<float>(Fuente().Alto(texto) / PixelesPorUnidadY());
+}
+
+void Lienzo::MousePointer(std::int16_t puntero, std::int32_t numeroDeCursor) {
+    if (alCambiarPuntero_) alCambiarPuntero_(puntero, numeroDeCursor);
+}
+
+}  // namespace zel

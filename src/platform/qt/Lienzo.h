@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+#include <QPointF>
+#include <QSize>
+#include <functional>
+#include <vector>
+
+#include "platform/Superficie.h"
+#include "platform/qt/Fuentes.h"
+
+namespace zel {
+
+// The drawing surface on Qt: an opaque RGB image and a painter on it. Sizes are logical pixels, 96 to the
+// inch for text; `relacion` is the number of device pixels in a logical one, so that the same drawing comes
+// out sharp on any screen and at any width.
+class Lienzo : public Superficie {
+  public:
+    explicit Lienzo(QSize tamanyo = {1, 1}, double relacion = 1);
+
+    // Begins anew, white, in that size; a side below one pixel counts as one. Fails with 7 when there is no
+    // memory for the image.
+    void Redimensiona(QSize tamanyo, double relacion);
+
+    QSize Tamanyo() const noexcept { return tamanyo_; }
+    double Relacion() const noexcept { return relacion_; }
+    // All that has been drawn, in device pixels.
+    const QImage& Imagen();
+
+    // What Refresh and MousePointer ask of the widget that shows the surface.
+    void AlRefrescar(std::function<void()> accion) { alRefrescar_ = std::move(accion); }
+    void AlCambiarPuntero(std::function<void(std::int16_t, std::int32_t)> accion) {
+        alCambiarPuntero_ = std::move(accion);
+    }
+
+    float AnchoDePixel() const override;
+    void Cls() override;
+    void Refresh() override;
+    using Superficie::Line;
+    void Line(std::span<const PuntoXY> cadena) override;
+    void Caja(PuntoXY esquina, PuntoXY opuesta) override;
+    void Circle(PuntoXY centro, float radio) override;
+    void Circle(PuntoXY centro, float radio, double inicio, double fin) override;
+    void PSet(PuntoXY punto, std::int32_t color) override;
+    void Print(std::string_view texto) override;
+    float TextWidth(std::string_view texto) override;
+    float TextHeight(std::string_view texto) override;
+    void MousePointer(std::int16_t puntero, std::int32_t numeroDeCursor) override;
+
+  private:
+    bool Invierte() const noexcept { return pluma().DrawMode == MODO_INVERTIR; }
+    double PixelesPorUnidadX() const noexcept { return imagen_.width() / double{ScaleWidth()}; }
+    double PixelesPorUnidadY() const noexcept { return imagen_.height() / double{ScaleHeight()}; }
+    QPointF EnPixeles(PuntoXY punto) const noexcept;
+    double AnchoDePluma() const noexcept;
+    void PonPluma();
+    void Ajusta(std::vector<QPointF>& puntos) const;
+    void Traza();
+    void TrazaLejana();
+    void AsientaPuntos();
+    FuenteDeTexto& Fuente();
+
+    QSize tamanyo_;
+    double relacion_ = 1;
+    QImage imagen_;
+    QPainter pintor_;  // declared behind the image: it ends first
+    Fuentes fuentes_{QStringLiteral("Arial")};
+    FuenteDeTexto* fuente_ = nullptr;
+    float puntosDeFuente_ = -1;
+    Pluma puesta_;
+    bool hayPlumaPuesta_ = false;
+    std::vector<QPointF> cadena_;  // the stroke in hand, in device pixels
+    std::vector<QPointF> puntos_;  // dots of one colour and mode not yet drawn
+    std::int32_t colorDePuntos_ = 0;
+    bool puntosInvierten_ = false;
+    std::function<void()> alRefrescar_;
+    std::function<void(std::int16_t, std::int32_t)> alCambiarPuntero_;
+};
+
+}  // namespace zel

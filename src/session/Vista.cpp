@@ -1,0 +1,220 @@
+#include "session/Vista.h"
+
+#include <cmath>
+
+#include "model/TamanyoUnidad.h"
+#include "model/modErrorHandling.h"
+#include "platform/Numeros.h"
+#include "session/Extension.h"
+
+namespace zel {
+
+namespace {
+
+struct Limites {
+    float inferior, superior;
+
+    // True when the value was outside; it is brought one unit inside then.
+    bool Limita(float& valor) const noexcept {
+        if (valor <= inferior)
+            valor = inferior + 1;
+        else if (valor >= superior)
+            valor = superior - 1;
+        else
+            return false;
+        return true;
+    }
+};
+
+constexpr Limites MUNDO_X{-4000, 5000000};
+constexpr Limites MUNDO_Y{-5000, 2500000};
+constexpr float AREA_MUNDO = 5004000.0F * 2505000.0F;
+
+constexpr std::int16_t MAXIMO_ZOOM = 111;
+constexpr std::int16_t MINIMO_ZOOM = 112;
+constexpr double VISTA_MAS_CERCANA = 10;  // units of TamanyoUnidad across the view
+constexpr double TOLERANCIA = 1e-5;
+
+bool LimitaAlMundo(Marco& marco) noexcept {
+    bool limitado = MUNDO_X.Limita(marco.Xmin);
+    limitado = MUNDO_X.Limita(marco.Xmax) || limitado;
+    limitado = MUNDO_Y.Limita(marco.Ymin) || limitado;
+    return MUNDO_Y.Limita(marco.Ymax) || limitado;
+}
+
+float Area(const Marco& marco) noexcept {
+    return (marco.Xmax - marco.Xmin) * (marco.Ymax - marco.Ymin);
+}
+
+// Widened around its middle to that width over height.
+Marco ConAspecto(const Marco& marco, double aspecto) noexcept {
+    const double ancho = double{marco.Xmax} - marco.Xmin;
+    const double alto = double{marco.Ymax} - marco.Ymin;
+    Marco ancheado = marco;
+    if (ancho / alto >= aspecto) {
+        const double medio = (double{marco.Ymin} + marco.Ymax) / 2;
+        ancheado.Ymin = static_cast<float>(medio - ancho / aspecto / 2);
+        ancheado.Ymax = static_cast<float>(medio + ancho / aspecto / 2);
+    } else {
+        const double medio = (double{marco.Xmin} + marco.Xmax) / 2;
+        ancheado.Xmin = static_cast<float>(medio - alto * aspecto / 2);
+        ancheado.Xmax = static_cast<float>(medio + alto * aspecto / 2);
+    }
+    return ancheado;
+}
+
+}  // namespace
+
+void Vista::PrimeraDisposicion() {
+    escalaDibujo_ = 8 * panel_.ScaleWidth();
+    regionElementos_ = {0, 0, 2 * panel_.ScaleWidth(), 2 * std::abs(panel_.ScaleHeight())};
+    panel_.ScaleLeft(0);
+    panel_.ScaleTop(regionElementos_.Ymax / 2);
+    TamanyoUnidad(escalaDibujo_ / panel_.ScaleWidth() / 2);
+    regionActiva_ = Marco::Visible(panel_);
+    areaActiva_ = Area(regionActiva_);
+    zoom_ = 1;
+}
+
+void Vista::Dispone(float ancho, float alto) try {
+    bVistaActualizada_ = false;
+    refresco_.PedirRefresco();
+    if (!(ancho > 0) || !(alto > 0)) return;
+    if (anchoPanel_ == 0) {
+        panel_.ScaleWidth(ancho);
+        panel_.ScaleHeight(-alto);
+        PrimeraDisposicion();
+    } else {
+        const float unidadesPorMm = panel_.ScaleWidth() / anchoPanel_;
+        const float anterior = panel_.ScaleWidth();
+        panel_.ScaleWidth(ancho * unidadesPorMm);
+        panel_.ScaleHeight(-alto * unidadesPorMm);
+        escalaDibujo_ = escalaDibujo_ / anterior * panel_.ScaleWidth();
+    }
+    anchoPanel_ = ancho;
+    relacionAspecto_ = std::abs(panel_.ScaleWidth() / panel_.ScaleHeight());
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrUserControl_Resize (Esquema)");
+}
+
+void Vista::MueveScroll(float x, float y, std::int16_t modo) try {
+    refresco_.AnularRefresco();
+    refresco_.PedirRefresco();
+    MUNDO_X.Limita(x);
+    MUNDO_Y.Limita(y);
+    panel_.ScaleLeft(x - panel_.ScaleWidth() / 2);
+    panel_.ScaleTop(y - panel_.ScaleHeight() / 2);
+    if (modo == 1) refresco_.RefrescarSiPendiente();
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrMueveScroll (Esquema)");
+}
+
+// Zoom is the visible area over AreaActiva, also right after AreaActiva has changed.
+void Vista::PonAreaActiva(float area) noexcept {
+    areaActiva_ = area;
+    zoom_ = std::abs(panel_.ScaleWidth() * panel_.ScaleHeight()) / areaActiva_;
+}
+
+void Vista::MuestraZoom() {
+    anfitrion_.TextoEstado(4, "Región mostrada: " + TextoDeNumero(RedondeaPar(double{zoom_} * 100)) + " %");
+}
+
+// The current centre, pulled inside the elements' region.
+PuntoXY Vista::CentroDentro() const noexcept {
+    const float hw = panel_.ScaleWidth() / 2;
+    const float hh = std::abs(panel_.ScaleHeight()) / 2;
+    float cx = panel_.ScaleLeft() + panel_.ScaleWidth() / 2;
+    float cy = panel_.ScaleTop() + panel_.ScaleHeight() / 2;
+    if (hw > regionElementos_.Xmax - cx)
+        cx = regionElementos_.Xmax - hw;
+    else if (hw > cx - regionElementos_.Xmin)
+        cx = regionElementos_.Xmin + hw;
+    if (hh > regionElementos_.Ymax - cy)
+        cy = regionElementos_.Ymax - hh;
+    else if (hh > cy - regionElementos_.Ymin)
+        cy = regionElementos_.Ymin + hh;
+    return {cx, cy};
+}
+
+bool Vista::AjustarZoomUsuario(Superficie& picture, float z, bool bMantenerCentro, bool bPermitirMayor,
+                               std::int16_t modo) try {
+    std::int32_t iRefrescar = 1;
+    const auto anchoVisible = [&] {
+        return static_cast<float>(std::sqrt(double{z} * relacionAspecto_ * areaActiva_));
+    };
+    float s = anchoVisible();
+    if (VISTA_MAS_CERCANA * TamanyoUnidad() > s) {
+        s = static_cast<float>((VISTA_MAS_CERCANA + 0.01) * TamanyoUnidad());
+        z = static_cast<float>(double{s} * s / relacionAspecto_ / areaActiva_);
+        if (zoom_ <= z * (1 + TOLERANCIA)) {
+            avisos_.LanzaMensaje(MAXIMO_ZOOM, 0, iRefrescar);
+            refresco_.RefrescarSiPendiente();
+            return false;
+        }
+    }
+    if (double{z} * areaActiva_ > 1.45 * AREA_MUNDO) {
+        avisos_.LanzaMensaje(MINIMO_ZOOM, 0, iRefrescar);
+        refresco_.RefrescarSiPendiente();
+        return false;
+    }
+    s = anchoVisible();
+    refresco_.AnularRefresco();
+    refresco_.PedirRefresco();
+    PuntoXY centro{picture.ScaleLeft() + picture.ScaleWidth() / 2,
+                   picture.ScaleTop() + picture.ScaleHeight() / 2};
+    if (!bMantenerCentro) {
+        if (!bPermitirMayor && z > 1) z = 1;
+        if (z >= 1) {
+            centro = {(regionElementos_.Xmin + regionElementos_.Xmax) / 2,
+                      (regionElementos_.Ymin + regionElementos_.Ymax) / 2};
+        } else {
+            centro = CentroDentro();
+        }
+    }
+    picture.ScaleWidth(s);
+    picture.ScaleHeight(-std::abs(s / relacionAspecto_));
+    zoom_ = z;
+    MuestraZoom();
+    MueveScroll(centro.X, centro.Y, modo);
+    return true;
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrAjustarZoomUsuario (Esquema)");
+}
+
+void Vista::AjustarImagen(Superficie& picture, std::int16_t modo) try {
+    refresco_.AnularRefresco();
+    bVistaActualizada_ = true;
+    CalculaRegionActiva(picture, true);
+    if (AjustarZoomUsuario(picture, 1.0F, false, true, modo)) return;
+    MueveScroll((regionElementos_.Xmin + regionElementos_.Xmax) / 2,
+                (regionElementos_.Ymin + regionElementos_.Ymax) / 2, modo);
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrAjustarImagen (Esquema)");
+}
+
+std::int16_t Vista::CalculaRegionActiva(Superficie& picture, bool bRegionActiva, const Elementos* elementos,
+                                        bool bForzar) try {
+    const bool recalcula = bRegionActiva || bForzar;
+    const auto extension =
+        ExtensionDe(elementos ? *elementos : *documento_.colElementos, 0.5F * TamanyoUnidad());
+    if (!extension) {
+        if (recalcula) {
+            regionElementos_ = regionActiva_ = Marco::Visible(picture);
+            PonAreaActiva(Area(regionActiva_));
+        }
+        return -1;
+    }
+    regionElementos_ = *extension;
+    Marco activa = ConAspecto(*extension, relacionAspecto_);
+    bool limitado = LimitaAlMundo(regionElementos_);
+    limitado = LimitaAlMundo(activa) || limitado;
+    if (recalcula) {
+        regionActiva_ = activa;
+        PonAreaActiva(Area(regionActiva_));
+    }
+    return limitado ? std::int16_t{-2} : std::int16_t{1};
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrCalculaRegionActiva (Esquema)");
+}
+
+}  // namespace zel
