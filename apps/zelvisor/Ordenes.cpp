@@ -53,7 +53,7 @@ int Exporta(const QString& entrada, const QString& salida, const QString& ancho)
     const EsquemaLeido leido = LeeODilo(entrada);
     if (!leido.elementos) return ILEGIBLE;
     QStringList fallos;
-    const QImage imagen = ImagenDeEsquema(leido.elementos, true, pixeles, fallos);
+    const QImage imagen = ImagenDeEsquema(*leido.elementos, true, pixeles, fallos);
     QImageWriter escritor(salida, "png");
     if (!escritor.write(imagen)) {
         std::cerr << "zelvisor: no se puede escribir \"" << salida.toStdString()

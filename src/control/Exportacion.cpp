@@ -5,112 +5,86 @@
 
 #include "drawing/Etiquetas.h"
 #include "drawing/Pintor.h"
+#include "model/TamanyoUnidad.h"
+#include "platform/Fallo.h"
 #include "platform/qt/Lienzo.h"
-#include "session/Vista.h"
+#include "session/Extension.h"
 
 namespace zel {
 
 namespace {
 
-constexpr double MM_POR_PIXEL = 25.4 / 96;
-constexpr double ALTO_MAXIMO = 4;  // heights per width
-constexpr double ALTO_MINIMO = 0.1;
-constexpr float MARGEN = 2;  // world units around everything
+// The scale at which symbols and texts have their nominal size: a world unit is a millimetre, plain text
+// has eight points.
+constexpr double PIXELES_POR_UNIDAD = 96 / 25.4;
+constexpr float PUNTOS_DEL_TEXTO = 8;
 
-class SinAnfitrion : public Anfitrion {
-  public:
-    void TextoEstado(int, const std::string&) override {}
-};
+constexpr float MARGEN = 4;        // world units around everything
+constexpr float LADO_MINIMO = 10;  // of TamanyoUnidad: the picture of one node shows it, not its outline
+constexpr double ALTO_POR_ANCHO_MINIMO = 0.1;
+constexpr double ALTO_POR_ANCHO_MAXIMO = 4;
 
-// A surface with a view of the whole schematic on it.
-class Lamina {
-  public:
-    Lamina(const std::shared_ptr<Elementos>& elementos, QSize tamanyo, double relacion)
-        : lienzo_(tamanyo, relacion),
-          refresco_(lienzo_),
-          avisos_(trabajo_, refresco_),
-          vista_(lienzo_, documento_, trabajo_, refresco_, avisos_, anfitrion_) {
-        documento_.colElementos = elementos;
-        vista_.Dispone(static_cast<float>(tamanyo.width() * MM_POR_PIXEL),
-                       static_cast<float>(tamanyo.height() * MM_POR_PIXEL));
-        vista_.AjustarImagen(lienzo_, 2);
+AjustesDibujo AjustesNominales(const Superficie& lienzo, bool bMostrarLineasOcultas) {
+    AjustesDibujo ajustes;
+    ajustes.EscalaDibujo = PUNTOS_DEL_TEXTO * lienzo.ScaleWidth();
+    ajustes.bMostrarLineasOcultas = bMostrarLineasOcultas;
+    return ajustes;
+}
+
+// What there is to see: symbols, traces and labels.
+Marco Contenido(const Elementos& elementos) {
+    Lienzo medidas;
+    medidas.ScaleWidth(static_cast<float>(1 / PIXELES_POR_UNIDAD));
+    medidas.ScaleHeight(-medidas.ScaleWidth());
+    const AjustesDibujo ajustes = AjustesNominales(medidas, false);
+    Marco marco;
+    if (const auto extension = ExtensionDe(elementos, MARGEN)) marco = *extension;
+    for (const auto& e : elementos) {
+        if (!e->MostrarEtiqueta()) continue;
+        const CajaEtiqueta caja = MideEtiqueta(medidas, ajustes, *e, e->XPos(), e->YPos());
+        marco.Crece(caja.X, caja.Y, MARGEN);
+        marco.Crece(caja.X + caja.Ancho, caja.Y + caja.Alto, MARGEN);
     }
+    return marco;
+}
 
-    AjustesDibujo Ajustes() const {
-        AjustesDibujo ajustes;
-        ajustes.EscalaDibujo = vista_.EscalaDibujo();
-        return ajustes;
-    }
-
-    // What there is to see: the elements' region and the labels.
-    Marco Contenido() {
-        Marco marco = vista_.RegionElementos();
-        const AjustesDibujo ajustes = Ajustes();
-        for (const auto& e : *documento_.colElementos) {
-            if (!e->MostrarEtiqueta()) continue;
-            const CajaEtiqueta caja = MideEtiqueta(lienzo_, ajustes, *e, e->XPos(), e->YPos());
-            marco.Crece(caja.X, caja.Y, MARGEN);
-            marco.Crece(caja.X + caja.Ancho, caja.Y + caja.Alto, MARGEN);
-        }
-        return marco;
-    }
-
-    // Shows all of it. Text sizes go in steps and follow the view, so that one turn may not be enough.
-    void EncuadraTodo() {
-        constexpr int VUELTAS = 5;
-        Encuadra(Contenido());
-        for (int vuelta = 1; vuelta < VUELTAS; ++vuelta) {
-            const Marco contenido = Contenido();
-            if (Marco::Visible(lienzo_).Contiene(contenido)) return;
-            Encuadra(contenido);
-        }
-    }
-
-    QImage Pinta(bool bMostrarLineasOcultas, QStringList& fallos) {
-        AjustesDibujo ajustes = Ajustes();
-        ajustes.bMostrarLineasOcultas = bMostrarLineasOcultas;
-        for (const auto& fallo :
-             PintaEsquema(lienzo_, ajustes, *documento_.colElementos, *documento_.colElementos)) {
-            fallos << QString::fromStdString(fallo);
-        }
-        return lienzo_.Imagen().copy();
-    }
-
-  private:
-    void Encuadra(const Marco& marco) {
-        const float ancho = std::max(marco.Xmax - marco.Xmin, (marco.Ymax - marco.Ymin) * vista_.RelacionAspecto());
-        lienzo_.ScaleWidth(ancho);
-        lienzo_.ScaleHeight(-ancho / vista_.RelacionAspecto());
-        lienzo_.ScaleLeft((marco.Xmin + marco.Xmax) / 2 - ancho / 2);
-        lienzo_.ScaleTop((marco.Ymin + marco.Ymax) / 2 - lienzo_.ScaleHeight() / 2);
-    }
-
-    Lienzo lienzo_;
-    SinAnfitrion anfitrion_;
-    Documento documento_;
-    Trabajo trabajo_;
-    Refresco refresco_;
-    Avisos avisos_;
-    Vista vista_;
-};
-
-int AltoPara(const Marco& marco) {
-    const double proporcion = (double{marco.Ymax} - marco.Ymin) / (double{marco.Xmax} - marco.Xmin);
-    return static_cast<int>(
-        std::ceil(ANCHO_NORMAL_DE_IMAGEN * std::clamp(proporcion, ALTO_MINIMO, ALTO_MAXIMO)));
+// The part of the world that the picture shows: the content, grown where it is too small or too slim.
+Marco Encuadre(const Elementos& elementos) {
+    Marco marco = Contenido(elementos);
+    if (marco.Xmin > marco.Xmax) marco.Crece(0, 0, 0);
+    const float x = (marco.Xmin + marco.Xmax) / 2;
+    const float y = (marco.Ymin + marco.Ymax) / 2;
+    const double ancho = double{marco.Xmax} - marco.Xmin;
+    const double alto = double{marco.Ymax} - marco.Ymin;
+    const double minimo = LADO_MINIMO * TamanyoUnidad();
+    const double anchoFinal = std::max({ancho, minimo, alto / ALTO_POR_ANCHO_MAXIMO});
+    const double altoFinal = std::max({alto, minimo, anchoFinal * ALTO_POR_ANCHO_MINIMO});
+    Marco entero;
+    entero.Crece(x - static_cast<float>(anchoFinal / 2), y - static_cast<float>(altoFinal / 2), 0);
+    entero.Crece(x + static_cast<float>(anchoFinal / 2), y + static_cast<float>(altoFinal / 2), 0);
+    return entero;
 }
 
 }  // namespace
 
-QImage ImagenDeEsquema(const std::shared_ptr<Elementos>& elementos, bool bMostrarLineasOcultas, int ancho,
+QImage ImagenDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, int ancho,
                        QStringList& fallos) {
-    // A first surface tells how much room the elements and their labels take; the second has its shape.
-    Lamina prueba(elementos, {ANCHO_NORMAL_DE_IMAGEN, ANCHO_NORMAL_DE_IMAGEN}, 1);
-    prueba.EncuadraTodo();
-    const QSize tamanyo(ANCHO_NORMAL_DE_IMAGEN, AltoPara(prueba.Contenido()));
-    Lamina lamina(elementos, tamanyo, double(ancho) / ANCHO_NORMAL_DE_IMAGEN);
-    lamina.EncuadraTodo();
-    return lamina.Pinta(bMostrarLineasOcultas, fallos);
+    const Marco encuadre = Encuadre(elementos);
+    const double anchoDelMundo = double{encuadre.Xmax} - encuadre.Xmin;
+    const double proporcion = (double{encuadre.Ymax} - encuadre.Ymin) / anchoDelMundo;
+    const QSize tamanyo(ancho, std::max(1, static_cast<int>(std::lround(ancho * proporcion))));
+    if (tamanyo.height() > ANCHO_MAXIMO_DE_IMAGEN) throw Fallo(7);
+    Lienzo lienzo;
+    lienzo.Redimensiona(tamanyo, ancho / (anchoDelMundo * PIXELES_POR_UNIDAD));
+    lienzo.ScaleLeft(encuadre.Xmin);
+    lienzo.ScaleTop(encuadre.Ymax);
+    lienzo.ScaleWidth(static_cast<float>(anchoDelMundo));
+    lienzo.ScaleHeight(encuadre.Ymin - encuadre.Ymax);
+    for (const auto& fallo :
+         PintaEsquema(lienzo, AjustesNominales(lienzo, bMostrarLineasOcultas), elementos, elementos)) {
+        fallos << QString::fromStdString(fallo);
+    }
+    return lienzo.Imagen().copy();
 }
 
 }  // namespace zel

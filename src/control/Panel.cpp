@@ -36,7 +36,7 @@ void Panel::paintEvent(QPaintEvent* evento) {
 void Panel::resizeEvent(QResizeEvent* evento) {
     QWidget::resizeEvent(evento);
     try {
-        lienzo_.Redimensiona(size(), devicePixelRatioF());
+        lienzo_.Redimensiona((QSizeF(size()) * devicePixelRatioF()).toSize(), devicePixelRatioF());
     } catch (const Fallo&) {
         return;  // no memory for an image of this size: the earlier one stays
     }

@@ -15,6 +15,7 @@ constexpr double PIXELES_POR_PUNTO = 96.0 / 72.0;
 constexpr int PIXELES_POR_METRO = 3780;  // 96 to the inch
 // Beyond this the rasterizer is not exact any more; strokes are cut there.
 constexpr double LEJOS = 30000;
+constexpr double LETRA_MINIMA = 1;  // pixels
 
 QColor ColorQt(std::int32_t color) {
     return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
@@ -71,11 +72,8 @@ Lienzo::Lienzo(QSize tamanyo, double relacion) {
     Redimensiona(tamanyo, relacion);
 }
 
-void Lienzo::Redimensiona(QSize tamanyo, double relacion) {
-    const QSize logico = tamanyo.expandedTo({1, 1});
-    const QSize real(std::max(1, qRound(logico.width() * relacion)),
-                     std::max(1, qRound(logico.height() * relacion)));
-    QImage nueva(real, QImage::Format_RGB32);
+void Lienzo::Redimensiona(QSize pixeles, double relacion) {
+    QImage nueva(pixeles.expandedTo({1, 1}), QImage::Format_RGB32);
     if (nueva.isNull()) throw Fallo(7);
     nueva.setDotsPerMeterX(PIXELES_POR_METRO);
     nueva.setDotsPerMeterY(PIXELES_POR_METRO);
@@ -83,7 +81,6 @@ void Lienzo::Redimensiona(QSize tamanyo, double relacion) {
     if (pintor_.isActive()) pintor_.end();
     imagen_ = std::move(nueva);
     pintor_.begin(&imagen_);
-    tamanyo_ = logico;
     relacion_ = relacion;
     hayPlumaPuesta_ = false;
     fuente_ = nullptr;
@@ -96,7 +93,7 @@ const QImage& Lienzo::Imagen() {
 }
 
 float Lienzo::AnchoDePixel() const {
-    return static_cast<float>(double{ScaleWidth()} / tamanyo_.width());
+    return static_cast<float>(relacion_ / PixelesPorUnidadX());
 }
 
 QPointF Lienzo::EnPixeles(PuntoXY punto) const noexcept {
@@ -273,27 +270,35 @@ void Lienzo::Refresh() {
     if (alRefrescar_) alRefrescar_();
 }
 
+// The font in use. Widths are proportional to the size, so that a text too small for the rasterizer is
+// measured in the smallest font and `reduccion` brings it down to its own.
 FuenteDeTexto& Lienzo::Fuente() {
     if (!fuente_ || puntosDeFuente_ != FontSize()) {
         puntosDeFuente_ = FontSize();
-        fuente_ = &fuentes_.De(puntosDeFuente_ * PIXELES_POR_PUNTO * relacion_);
+        const double alto = puntosDeFuente_ * PIXELES_POR_PUNTO * relacion_;
+        fuente_ = &fuentes_.De(std::max(alto, LETRA_MINIMA));
+        reduccion_ = std::min(1.0, alto / LETRA_MINIMA);
     }
     return *fuente_;
 }
 
 void Lienzo::Print(std::string_view texto) {
     AsientaPuntos();
+    FuenteDeTexto& fuente = Fuente();
+    if (reduccion_ < 1) return;  // less than a pixel high: nothing to be seen
     pintor_.setCompositionMode(QPainter::CompositionMode_SourceOver);
     hayPlumaPuesta_ = false;
-    Fuente().Pinta(pintor_, EnPixeles({CurrentX(), CurrentY()}), ColorQt(pluma().ForeColor), texto);
+    fuente.Pinta(pintor_, EnPixeles({CurrentX(), CurrentY()}), ColorQt(pluma().ForeColor), texto);
 }
 
 float Lienzo::TextWidth(std::string_view texto) {
-    return static_cast<float>(Fuente().Ancho(texto) / PixelesPorUnidadX());
+    const double ancho = Fuente().Ancho(texto);
+    return static_cast<float>(ancho * reduccion_ / PixelesPorUnidadX());
 }
 
 float Lienzo::TextHeight(std::string_view texto) {
-    return static_cast<float>(Fuente().Alto(texto) / PixelesPorUnidadY());
+    const double alto = Fuente().Alto(texto);
+    return static_cast<float>(alto * reduccion_ / PixelesPorUnidadY());
 }
 
 void Lienzo::MousePointer(std::int16_t puntero, std::int32_t numeroDeCursor) {

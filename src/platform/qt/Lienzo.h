@@ -12,18 +12,17 @@
 
 namespace zel {
 
-// The drawing surface on Qt: an opaque RGB image and a painter on it. Sizes are logical pixels, 96 to the
-// inch for text; `relacion` is the number of device pixels in a logical one, so that the same drawing comes
-// out sharp on any screen and at any width.
+// The drawing surface on Qt: an opaque RGB image and a painter on it. Pens and texts are measured in logical
+// pixels, 96 to the inch; `relacion` is the number of the image's pixels in a logical one, so that the same
+// drawing comes out sharp on any screen and at any width.
 class Lienzo : public Superficie {
   public:
-    explicit Lienzo(QSize tamanyo = {1, 1}, double relacion = 1);
+    explicit Lienzo(QSize pixeles = {1, 1}, double relacion = 1);
 
-    // Begins anew, white, in that size; a side below one pixel counts as one. Fails with 7 when there is no
-    // memory for the image.
-    void Redimensiona(QSize tamanyo, double relacion);
+    // Begins anew, white, in that many pixels of the image; a side below one counts as one. Fails with 7
+    // when there is no memory for the image.
+    void Redimensiona(QSize pixeles, double relacion);
 
-    QSize Tamanyo() const noexcept { return tamanyo_; }
     double Relacion() const noexcept { return relacion_; }
     // All that has been drawn, in device pixels.
     const QImage& Imagen();
@@ -61,13 +60,13 @@ class Lienzo : public Superficie {
     void AsientaPuntos();
     FuenteDeTexto& Fuente();
 
-    QSize tamanyo_;
     double relacion_ = 1;
     QImage imagen_;
     QPainter pintor_;  // declared behind the image: it ends first
     Fuentes fuentes_{QStringLiteral("Arial")};
     FuenteDeTexto* fuente_ = nullptr;
     float puntosDeFuente_ = -1;
+    double reduccion_ = 1;
     Pluma puesta_;
     bool hayPlumaPuesta_ = false;
     std::vector<QPointF> cadena_;  // the stroke in hand, in device pixels
