@@ -16,6 +16,7 @@ constexpr int PIXELES_POR_METRO = 3780;  // 96 to the inch
 // Beyond this the rasterizer is not exact any more; strokes are cut there.
 constexpr double LEJOS = 30000;
 constexpr double LETRA_MINIMA = 1;  // pixels
+constexpr double LETRA_DE_MEDIDA = 16;
 
 QColor ColorQt(std::int32_t color) {
     return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
@@ -137,9 +138,7 @@ void Lienzo::PonPluma() {
 void Lienzo::Ajusta(std::vector<QPointF>& puntos) const {
     const bool impar = static_cast<int>(AnchoDePluma()) % 2 == 1;
     const auto alPixel = [&](double v) { return impar ? std::floor(v) + 0.5 : std::round(v); };
-    for (std::size_t i = 1; i < puntos.size(); ++i) {
-        QPointF& a = puntos[i - 1];
-        QPointF& b = puntos[i];
+    const auto ajusta = [&](QPointF& a, QPointF& b) {
         if (std::abs(a.y() - b.y()) < 1e-3) {
             const double y = alPixel(a.y());
             a.setY(y);
@@ -149,6 +148,15 @@ void Lienzo::Ajusta(std::vector<QPointF>& puntos) const {
             a.setX(x);
             b.setX(x);
         }
+    };
+    const bool cerrada = puntos.size() > 2 && puntos.front() == puntos.back();
+    // The last point of a closed chain is its first one: it moves with it.
+    if (cerrada) puntos.pop_back();
+    for (std::size_t i = 1; i < puntos.size(); ++i)
+        ajusta(puntos[i - 1], puntos[i]);
+    if (cerrada) {
+        ajusta(puntos.back(), puntos.front());
+        puntos.push_back(puntos.front());
     }
 }
 
@@ -185,10 +193,7 @@ void Lienzo::Line(std::span<const PuntoXY> cadena) {
     cadena_.clear();
     for (const PuntoXY punto : cadena)
         cadena_.push_back(EnPixeles(punto));
-    // A closed chain stays closed when its ends move onto pixels.
-    const bool cerrada = cadena.size() > 2 && cadena_.front() == cadena_.back();
     Ajusta(cadena_);
-    if (cerrada) cadena_.back() = cadena_.front();
     Traza();
 }
 
@@ -206,7 +211,6 @@ void Lienzo::Caja(PuntoXY esquina, PuntoXY opuesta) {
     }
     cadena_ = {caja.topLeft(), caja.topRight(), caja.bottomRight(), caja.bottomLeft(), caja.topLeft()};
     Ajusta(cadena_);
-    cadena_.back() = cadena_.front();
     Traza();
 }
 
@@ -244,17 +248,21 @@ void Lienzo::PSet(PuntoXY punto, std::int32_t color) {
     if (negroOColor != colorDePuntos_ || Invierte() != puntosInvierten_) AsientaPuntos();
     colorDePuntos_ = negroOColor;
     puntosInvierten_ = Invierte();
-    puntos_.push_back(EnPixeles(punto));
+    const QPointF enPixeles = EnPixeles(punto);
+    if (!EstaLejos(enPixeles)) puntos_.push_back(enPixeles);
 }
 
 // Draws the dots that are waiting.
 void Lienzo::AsientaPuntos() {
     if (puntos_.empty()) return;
     pintor_.setCompositionMode(ModoDeComposicion(puntosInvierten_));
-    pintor_.setRenderHint(QPainter::Antialiasing, false);
-    pintor_.setPen(
-        QPen(ColorQt(colorDePuntos_), std::max(1.0, std::round(relacion_)), Qt::SolidLine, Qt::SquareCap));
-    pintor_.drawPoints(puntos_.data(), static_cast<int>(puntos_.size()));
+    const QColor color = ColorQt(colorDePuntos_);
+    const int lado = std::max(1, qRound(relacion_));
+    for (const QPointF punto : puntos_) {
+        const int x = static_cast<int>(std::floor(punto.x() - (lado - 1) / 2.0));
+        const int y = static_cast<int>(std::floor(punto.y() - (lado - 1) / 2.0));
+        pintor_.fillRect(x, y, lado, lado, color);
+    }
     puntos_.clear();
     hayPlumaPuesta_ = false;
 }
@@ -270,14 +278,15 @@ void Lienzo::Refresh() {
     if (alRefrescar_) alRefrescar_();
 }
 
-// The font in use. Widths are proportional to the size, so that a text too small for the rasterizer is
-// measured in the smallest font and `reduccion` brings it down to its own.
+// The font in use. Widths are proportional to the size, so that a text too small to be seen is measured in
+// a larger font and `reduccion` brings it down to its own size.
 FuenteDeTexto& Lienzo::Fuente() {
     if (!fuente_ || puntosDeFuente_ != FontSize()) {
         puntosDeFuente_ = FontSize();
         const double alto = puntosDeFuente_ * PIXELES_POR_PUNTO * relacion_;
-        fuente_ = &fuentes_.De(std::max(alto, LETRA_MINIMA));
-        reduccion_ = std::min(1.0, alto / LETRA_MINIMA);
+        const bool seVe = alto >= LETRA_MINIMA;
+        fuente_ = &fuentes_.De(seVe ? alto : LETRA_DE_MEDIDA);
+        reduccion_ = seVe ? 1 : alto / LETRA_DE_MEDIDA;
     }
     return *fuente_;
 }

@@ -1,0 +1,124 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <QImage>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+
+#include "VentanaPrincipal.h"
+#include "control/Esquema.h"
+#include "support/CarpetaTemporal.h"
+#include "support/DialogosGuion.h"
+
+namespace zel::pruebas {
+namespace {
+
+const std::string CUENCA = ZEL_RAIZ "/examples/cuenca.xml";
+
+struct Resultado {
+    int codigo = -1;
+    std::string texto;  // both streams
+};
+
+Resultado Ejecuta(const std::string& argumentos) {
+    Resultado resultado;
+    std::FILE* tubo = popen(("\"" ZEL_PROGRAMA "\" " + argumentos + " 2>&1").c_str(), "r");
+    if (!tubo) return resultado;
+    std::array<char, 4096> trozo{};
+    while (const std::size_t leido = std::fread(trozo.data(), 1, trozo.size(), tubo)) {
+        resultado.texto.append(trozo.data(), leido);
+    }
+    resultado.codigo = WEXITSTATUS(pclose(tubo));
+    return resultado;
+}
+
+bool Contiene(const std::string& texto, const std::string& parte) {
+    return texto.find(parte) != std::string::npos;
+}
+
+TEST(Programa, InfoCountsTheKindsAndTellsTheProblems) {
+    const CarpetaTemporal carpeta;
+    const Resultado cuenca = Ejecuta("info " + CUENCA);
+    EXPECT_EQ(cuenca.codigo, 0) << cuenca.texto;
+    for (const char* linea : {"Elementos: 114", "  Nudo: 20", "  Central Hidroeléctrica: 4", "  Subcuenca: 4",
+                              "Problemas de carga: ninguno"}) {
+        EXPECT_TRUE(Contiene(cuenca.texto, linea)) << linea << " in\n" << cuenca.texto;
+    }
+    const std::string incompleto =
+        carpeta.Escribe("incompleto.xml",
+                        "<Esquema><Elementos><Nudo><Elemento><gfCodSig>5</gfCodSig><Tipo>10</Tipo>"
+                        "<posX>12.5</posX></Elemento></Nudo></Elementos></Esquema>");
+    const Resultado conProblemas = Ejecuta("info " + incompleto);
+    EXPECT_EQ(conProblemas.codigo, 0);
+    EXPECT_TRUE(Contiene(conProblemas.texto, "Extensión: X de 8.5 a 16.5, Y de -4 a 4"))
+        << conProblemas.texto;
+    EXPECT_TRUE(
+        Contiene(conProblemas.texto, "El elemento en la posición 1 no almacenó la propiedad Nombre\n"))
+        << conProblemas.texto;
+    EXPECT_TRUE(std::filesystem::exists("ErroresCarga.log"));
+}
+
+TEST(Programa, ExportarDrawsThePictureWithoutADisplay) {
+    const CarpetaTemporal carpeta;
+    EXPECT_EQ(Ejecuta("exportar " + CUENCA + " cuenca.png --ancho 500").codigo, 0);
+    const QImage imagen(QStringLiteral("cuenca.png"));
+    EXPECT_EQ(imagen.width(), 500);
+    EXPECT_GT(imagen.height(), 200);
+}
+
+TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
+    const CarpetaTemporal carpeta;
+    const std::string roto = carpeta.Escribe("roto.xml", "<Esquema><Elementos>");
+    const std::string repetido = carpeta.Escribe(
+        "repetido.xml",
+        "<Esquema><Elemento><Tipo>10</Tipo></Elemento><Elemento><Tipo>10</Tipo></Elemento></Esquema>");
+    const struct {
+        std::string orden;
+        int codigo;
+        std::string texto;
+    } casos[] = {
+        {"info", 1, "Uso:"},
+        {"exportar " + CUENCA, 1, "Uso:"},
+        {"exportar " + CUENCA + " salida.png --ancho doce", 1, "número de píxeles"},
+        {"exportar " + CUENCA + " salida.png --ancho 16001", 1, "número de píxeles"},
+        {"exportar " + CUENCA + " salida.jpg", 1, ".png"},
+        {"exportar " + CUENCA + " no/hay/salida.png", 1, "no se puede escribir"},
+        {"exportar nada.xml salida.png", 2, "No se ha encontrado el archivo"},
+        {"info .", 2, "no se puede leer \".\""},
+        {"info " + roto, 2, "no está bien formado"},
+        {"info " + repetido, 2, "La clave ya está en la colección"},
+    };
+    for (const auto& caso : casos) {
+        const Resultado resultado = Ejecuta(caso.orden);
+        EXPECT_EQ(resultado.codigo, caso.codigo) << caso.orden;
+        EXPECT_TRUE(Contiene(resultado.texto, caso.texto)) << caso.orden << ":\n" << resultado.texto;
+        EXPECT_FALSE(std::filesystem::exists("salida.png")) << caso.orden;
+    }
+}
+
+TEST(Ventana, AFileThatCannotBeOpenedLeavesTheOneThatWas) {
+    const CarpetaTemporal carpeta;
+    DialogosGuion dialogos;
+    VentanaPrincipal ventana;
+    ventana.show();
+    ventana.Abre(QString::fromStdString(CUENCA));
+    const auto* esquema = ventana.findChild<Esquema*>();
+    const auto cuenca = esquema->GetElementos();
+    EXPECT_EQ(cuenca->Count(), 114);
+    EXPECT_TRUE(ventana.windowTitle().startsWith(QStringLiteral("cuenca.xml")));
+
+    dialogos.Espera("No se puede abrir \"nada.xml\"");
+    ventana.Abre(QStringLiteral("nada.xml"));
+    dialogos.Espera("no contiene ningún elemento");
+    ventana.Abre(QString::fromStdString(carpeta.Escribe("vacio.xml", "<Esquema/>")));
+    EXPECT_EQ(esquema->GetElementos(), cuenca);
+
+    dialogos.Espera("ErroresCarga.log");
+    ventana.Abre(QString::fromStdString(carpeta.Escribe(
+        "incompleto.xml", "<Esquema><Elemento><gfCodSig>1</gfCodSig><Tipo>10</Tipo></Elemento></Esquema>")));
+    EXPECT_EQ(esquema->GetElementos()->Count(), 1);
+}
+
+}  // namespace
+}  // namespace zel::pruebas

@@ -1,0 +1,116 @@
+#include "control/Esquema.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QColor>
+#include <map>
+
+#include "control/Panel.h"
+#include "platform/Fallo.h"
+
+namespace zel::pruebas {
+namespace {
+
+std::shared_ptr<Elementos> DosNudos(float separacion) {
+    auto elementos = std::make_shared<Elementos>();
+    elementos->Add(ctNudo, "Norte", 1, 1, 0, 0, 0, 0, nullptr, nullptr, "1", 5, 0);
+    elementos->Add(ctNudo, "Sur", 2, 2, separacion, separacion, 0, 0, nullptr, nullptr, "2", 5, 0);
+    return elementos;
+}
+
+class EsquemaEnVentana : public testing::Test {
+  protected:
+    EsquemaEnVentana() {
+        QObject::connect(&esquema, &Esquema::TextoEstado,
+                         [this](int cual, const QString& texto) { estado[cual] = texto.toStdString(); });
+        QObject::connect(&esquema, &Esquema::FallosDeDibujo, [this](const QStringList& f) { fallos << f; });
+        esquema.resize(800, 600);
+        esquema.show();
+        QApplication::processEvents();
+    }
+    Lienzo& Dibujo() { return esquema.findChild<Panel*>(QStringLiteral("Panel"))->lienzo(); }
+    bool SeVe(float x, float y) {
+        const QImage& imagen = Dibujo().Imagen();
+        const int cx = qRound((x - Dibujo().ScaleLeft()) / Dibujo().ScaleWidth() * imagen.width());
+        const int cy = qRound((y - Dibujo().ScaleTop()) / Dibujo().ScaleHeight() * imagen.height());
+        for (int dx = -3; dx <= 3; ++dx) {
+            for (int dy = -3; dy <= 3; ++dy) {
+                if (!imagen.valid(cx + dx, cy + dy)) continue;
+                if (imagen.pixelColor(cx + dx, cy + dy) != QColor(Qt::white)) return true;
+            }
+        }
+        return false;
+    }
+
+    Esquema esquema;
+    std::map<int, std::string> estado;
+    QList<QStringList> fallos;
+};
+
+TEST_F(EsquemaEnVentana, ANewSchematicIsFittedAndSeen) {
+    esquema.GetElementos(DosNudos(500));
+    esquema.ResizeGrafo();
+    EXPECT_EQ(estado[4], "Región mostrada: 100 %");
+    EXPECT_TRUE(SeVe(0, 4));
+    EXPECT_TRUE(SeVe(500, 504));
+    EXPECT_THROW(esquema.GetElementos(nullptr), Fallo);
+    EXPECT_EQ(esquema.GetElementos()->Count(), 2);
+}
+
+TEST_F(EsquemaEnVentana, ResizingKeepsTheScaleAndTheCorner) {
+    esquema.GetElementos(DosNudos(500));
+    esquema.ResizeGrafo();
+    const float unidadesPorPixel = Dibujo().AnchoDePixel();
+    const Superficie::Escala antes = Dibujo().escala();
+    esquema.resize(1000, 400);
+    QApplication::processEvents();
+    EXPECT_NEAR(Dibujo().AnchoDePixel(), unidadesPorPixel, 1e-4 * unidadesPorPixel);
+    EXPECT_FLOAT_EQ(Dibujo().ScaleLeft(), antes.Left);
+    EXPECT_FLOAT_EQ(Dibujo().ScaleTop(), antes.Top);
+    EXPECT_NEAR(Dibujo().ScaleWidth(), antes.Width * 1000 / 800, 0.01);
+    EXPECT_NEAR(Dibujo().ScaleHeight(), antes.Height * 400 / 600, 0.01);
+    EXPECT_TRUE(SeVe(500, 504)) << "not repainted after the resize";
+}
+
+TEST_F(EsquemaEnVentana, ZoomAndScrollMoveTheView) {
+    esquema.GetElementos(DosNudos(500));
+    esquema.ResizeGrafo();
+    const Superficie::Escala todo = Dibujo().escala();
+    esquema.CambiaZoom(0.25);
+    EXPECT_EQ(estado[4], "Región mostrada: 25 %");
+    EXPECT_NEAR(Dibujo().ScaleWidth(), todo.Width / 2, 0.1);
+    EXPECT_NEAR(Dibujo().ScaleLeft(), todo.Left + todo.Width / 4, 0.1) << "the centre moved";
+    const float izquierda = Dibujo().ScaleLeft();
+    const float arriba = Dibujo().ScaleTop();
+    esquema.DesplazaVista(0.5, 0.25);
+    EXPECT_NEAR(Dibujo().ScaleLeft(), izquierda + todo.Width / 4, 0.1);
+    EXPECT_NEAR(Dibujo().ScaleTop(), arriba - todo.Height / 8, 0.1);
+}
+
+TEST_F(EsquemaEnVentana, AnExposeCopiesTheImageAndDrawsNothing) {
+    esquema.GetElementos(DosNudos(500));
+    esquema.ResizeGrafo();
+    Dibujo().DrawMode(Superficie::MODO_INVERTIR);
+    Dibujo().Line({0, 0}, {500, 500});
+    const QImage marcada = Dibujo().Imagen().copy();
+    esquema.repaint();
+    EXPECT_EQ(Dibujo().Imagen(), marcada);
+    EXPECT_EQ(esquema.grab().toImage().convertToFormat(QImage::Format_RGB32), marcada);
+}
+
+TEST_F(EsquemaEnVentana, DrawingFailuresAreToldOnce) {
+    auto elementos = DosNudos(500);
+    elementos->Add(ctToma, "Sin trazado", 3, 1, 0, 0, 1, 2, nullptr, nullptr, "3", 0, 0);
+    esquema.GetElementos(elementos);
+    esquema.ResizeGrafo();
+    esquema.CambiaZoom(0.5);
+    ASSERT_EQ(fallos.size(), 1);
+    EXPECT_EQ(fallos[0].size(), 1);
+    esquema.GetElementos(DosNudos(500));
+    ASSERT_EQ(fallos.size(), 2);
+    EXPECT_TRUE(fallos[1].isEmpty());
+}
+
+}  // namespace
+}  // namespace zel::pruebas
