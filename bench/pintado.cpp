@@ -81,7 +81,7 @@ void Pintor(benchmark::State& estado) {
         panel.repaint();
     }
 }
-BENCHMARK(Pintor)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond)->MinTime(3);
+BENCHMARK(Pintor)->Arg(1)->Arg(10)->Arg(10000)->Unit(benchmark::kMillisecond)->MinTime(3);
 
 void VistaDeGraficos(benchmark::State& estado) {
     const Encuadre encuadre(ParteDelArea(estado));

@@ -1,9 +1,13 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <algorithm>
 #include <cstring>
+#include <initializer_list>
 #include <iostream>
 
 #include "Ordenes.h"
@@ -13,8 +17,37 @@
 
 namespace {
 
+bool EsUnaDe(const char* argumento, std::initializer_list<const char*> palabras) {
+    return std::any_of(palabras.begin(), palabras.end(),
+                       [&](const char* p) { return std::strcmp(argumento, p) == 0; });
+}
 bool EsOrden(int argc, char** argv) {
-    return argc > 1 && (std::strcmp(argv[1], "exportar") == 0 || std::strcmp(argv[1], "info") == 0);
+    return argc > 1 && EsUnaDe(argv[1], {"exportar", "info"});
+}
+bool PideAyuda(int argc, char** argv) {
+    return std::any_of(argv + 1, argv + argc, [](const char* a) {
+        return EsUnaDe(a, {"-h", "--help", "--help-all"});
+    });
+}
+
+bool HayPantalla() {
+    const auto hay = [](const char* variable) { return !qEnvironmentVariableIsEmpty(variable); };
+    return hay("DISPLAY") || hay("WAYLAND_DISPLAY") || hay("QT_QPA_PLATFORM");
+}
+
+// The orders speak for themselves: what Qt has to say of a missing desktop is no news to their user.
+void CallaAvisos(QtMsgType tipo, const QMessageLogContext&, const QString& texto) {
+    if (tipo == QtCriticalMsg || tipo == QtFatalMsg) std::cerr << texto.toStdString() << '\n';
+}
+
+// Logs go to the current directory; where nothing can be written there, to the user's own. The arguments
+// keep their meaning.
+QStringList ConCarpetaEscribible(QStringList archivos) {
+    if (QFileInfo(QDir::currentPath()).isWritable()) return archivos;
+    for (QString& archivo : archivos)
+        archivo = QFileInfo(archivo).absoluteFilePath();
+    QDir::setCurrent(QDir::homePath());
+    return archivos;
 }
 
 int Ordena(const QStringList& argumentos, const QCommandLineParser& lector) {
@@ -33,7 +66,16 @@ int Ordena(const QStringList& argumentos, const QCommandLineParser& lector) {
 
 int main(int argc, char** argv) {
     // The orders draw without a display.
-    if (EsOrden(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (EsOrden(argc, argv) || PideAyuda(argc, argv)) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qInstallMessageHandler(CallaAvisos);
+    }
+    if (!HayPantalla()) {
+        std::cerr << "zelvisor: no hay pantalla en la que abrir la ventana. Ejecútelo en una sesión gráfica, "
+                     "o dibuje el "
+                     "esquema en una imagen:\n  zelvisor exportar ENTRADA SALIDA.png\n";
+        return 1;
+    }
     const QApplication programa(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("zelvisor"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Visor de esquemas"));
@@ -60,11 +102,14 @@ int main(int argc, char** argv) {
     lector.process(programa);
     const QStringList argumentos = lector.positionalArguments();
     try {
-        if (EsOrden(argc, argv)) return Ordena(argumentos, lector);
+        if (EsOrden(argc, argv)) {
+            return Ordena(argumentos.mid(0, 1) + ConCarpetaEscribible(argumentos.mid(1)), lector);
+        }
         zel::instalaDialogos(std::make_shared<zel::DialogosQt>());
         zel::VentanaPrincipal ventana;
         ventana.show();
-        if (!argumentos.isEmpty()) ventana.Abre(argumentos.first());
+        const QStringList archivos = ConCarpetaEscribible(argumentos);
+        if (!archivos.isEmpty()) ventana.Abre(archivos.first());
         return QApplication::exec();
     } catch (const std::exception& fallo) {
         std::cerr << "zelvisor: " << fallo.what() << '\n';

@@ -1,5 +1,8 @@
 #include "drawing/Etiquetas.h"
 
+#include <algorithm>
+#include <string>
+
 #include "drawing/Colores.h"
 #include "drawing/Fuente.h"
 #include "drawing/Marco.h"
@@ -8,22 +11,35 @@ namespace zel {
 
 namespace {
 
-// A label hangs to the right of its anchor and below it. Its width is not measured to tell whether it is in
-// sight: no character of a text is wider than the line is high.
-bool SeVe(const Marco& visible, Superficie& panel, const Elemento& e, float x, float y) {
-    if (x > visible.Xmax || y < visible.Ymin) return false;
-    const float alto = -panel.TextHeight(e.Nombre());
-    if (y - alto > visible.Ymax) return false;
-    return x + static_cast<float>(e.Nombre().size()) * alto >= visible.Xmin;
-}
+// What tells whether a label is in sight without setting its font and measuring it.
+struct Alcance {
+    Alcance(Superficie& panel, const AjustesDibujo& ajustes) : visible(Marco::Visible(panel)) {
+        PonFuente(panel, ajustes.FactorFuente(panel), ajustes.iEstado);
+        altoDePunto = -panel.TextHeight("0") / panel.FontSize();
+    }
+
+    // A label hangs to the right of its anchor and below it, and no character is wider than the line is
+    // high. Sizes are rounded by a point at most, two below one.
+    bool SeVe(const std::string& nombre, float factor, float x, float y) const noexcept {
+        if (x > visible.Xmax || y < visible.Ymin) return false;
+        const float alto = altoDePunto * (factor + 2);
+        if (x + static_cast<float>(nombre.size()) * alto < visible.Xmin) return false;
+        const auto lineas = 1 + std::count(nombre.begin(), nombre.end(), '\n');
+        return y - static_cast<float>(lineas) * alto <= visible.Ymax;
+    }
+
+    Marco visible;
+    float altoDePunto;  // world units that a line is high for each point of its font
+};
 
 void DibujaEtiqueta(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e,
-                    const Marco& visible) {
+                    const Alcance& alcance) {
     if (!e.MostrarEtiqueta()) return;
     const float x = e.XPos() + e.EtiquetaPosX();
     const float y = e.YPos() + e.EtiquetaPosY();
-    PonFuente(panel, FactorEtiqueta(panel, ajustes, e), ajustes.iEstado);
-    if (!SeVe(visible, panel, e, x, y)) return;
+    const float factor = FactorEtiqueta(panel, ajustes, e);
+    if (!alcance.SeVe(e.Nombre(), factor, x, y)) return;
+    PonFuente(panel, factor, ajustes.iEstado);
     panel.CurrentX(x);
     panel.CurrentY(y);
     panel.Print(e.Nombre());
@@ -47,12 +63,12 @@ void DibujaEtiquetas(Superficie& panel, const AjustesDibujo& ajustes, const Elem
                      bool bSoloSeleccionado, const Elemento* elemSeleccionado) try {
     if (!ajustes.bMostrarEtiquetas) return;
     PreparaNegro(panel);
-    const Marco visible = Marco::Visible(panel);
+    const Alcance alcance(panel, ajustes);
     if (bSoloSeleccionado && elemSeleccionado) {
-        DibujaEtiqueta(panel, ajustes, *elemSeleccionado, visible);
+        DibujaEtiqueta(panel, ajustes, *elemSeleccionado, alcance);
     } else {
         for (const auto& e : elementos)
-            DibujaEtiqueta(panel, ajustes, *e, visible);
+            DibujaEtiqueta(panel, ajustes, *e, alcance);
     }
     PonFuente(panel, ajustes.FactorFuente(panel), ajustes.iEstado);
 } catch (...) {

@@ -64,10 +64,11 @@ std::vector<std::string> PintaEsquema(Superficie& panel, const AjustesDibujo& aj
     panel.FillStyle(Superficie::RELLENO_NINGUNO);
     panel.DrawMode(Superficie::MODO_NEGRO);
     const Marco visible = Marco::Visible(panel);
+    const float anchoDePixel = panel.AnchoDePixel();
     float margen = 0;
     fallos.Intenta([&] { margen = MargenDeDibujo(panel, ajustes); });
     for (const auto& e : elementos) {
-        if (!CabeDibujar(*e, visible, margen, panel.AnchoDePixel())) continue;
+        if (!CabeDibujar(*e, visible, margen, anchoDePixel)) continue;
         fallos.Intenta([&] { DibujarElemento(panel, ajustes, e.get(), false); });
     }
     fallos.Intenta([&] { DibujaEtiquetas(panel, ajustes, elementos, false); });

@@ -117,12 +117,9 @@ std::optional<double> NumeroCompleto(std::string_view texto) {
     return Valor<double>(tramo);
 }
 
+// The floating-point environment's rounding, to nearest and half to even, is never changed here.
 double RedondeaPar(double valor) noexcept {
-    const double abajo = std::floor(valor);
-    const double resto = valor - abajo;
-    if (resto < 0.5) return abajo;
-    if (resto > 0.5) return abajo + 1;
-    return std::fmod(abajo, 2.0) == 0.0 ? abajo : abajo + 1;
+    return std::nearbyint(valor);
 }
 
 std::int16_t Entero16(double valor) {
