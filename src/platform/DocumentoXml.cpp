@@ -88,18 +88,11 @@ std::string_view TextoDe(const xmlNode* elemento, std::string& memoria) {
     if (!hijo) return {};
     if (!hijo->next && esTexto(hijo)) return reinterpret_cast<const char*>(hijo->content);
     memoria.clear();
-    const xmlNode* nodo = elemento;
-    for (;;) {
-        if (nodo->type == XML_ELEMENT_NODE && nodo->children) {
-            nodo = nodo->children;
-        } else {
-            while (nodo != elemento && !nodo->next)
-                nodo = nodo->parent;
-            if (nodo == elemento) return memoria;
-            nodo = nodo->next;
-        }
+    for (const xmlNode* nodo = SiguienteNodo(elemento, elemento); nodo;
+         nodo = SiguienteNodo(nodo, elemento)) {
         if (esTexto(nodo)) memoria += reinterpret_cast<const char*>(nodo->content);
     }
+    return memoria;
 }
 
 }  // namespace zel

@@ -32,20 +32,22 @@ class DocumentoXml {
     std::string motivo_;
 };
 
-// The element that follows `nodo` in document order inside `cima`, or null behind the last one. Beginning
-// with `cima` itself it visits all its descendants, `cima` excluded.
+// The node that follows `nodo` in document order inside `cima`, or null behind the last one. Beginning with
+// `cima` itself it visits all its descendants, `cima` excluded.
+template <typename Nodo>
+Nodo* SiguienteNodo(Nodo* nodo, const xmlNode* cima) noexcept {
+    if (nodo->type == XML_ELEMENT_NODE && nodo->children) return nodo->children;
+    while (nodo != cima && !nodo->next)
+        nodo = nodo->parent;
+    return nodo == cima ? nullptr : nodo->next;
+}
+
+// The same, elements only.
 inline xmlNode* SiguienteElemento(xmlNode* nodo, const xmlNode* cima) noexcept {
-    for (;;) {
-        if (nodo->type == XML_ELEMENT_NODE && nodo->children) {
-            nodo = nodo->children;
-        } else {
-            while (nodo != cima && !nodo->next)
-                nodo = nodo->parent;
-            if (nodo == cima) return nullptr;
-            nodo = nodo->next;
-        }
-        if (nodo->type == XML_ELEMENT_NODE) return nodo;
-    }
+    do {
+        nodo = SiguienteNodo(nodo, cima);
+    } while (nodo && nodo->type != XML_ELEMENT_NODE);
+    return nodo;
 }
 
 // All the text under the element, joined, in UTF-8. When it is one piece, the view is on the document

@@ -69,8 +69,8 @@ bool Recorta(QPointF& a, QPointF& b) noexcept {
 
 }  // namespace
 
-Lienzo::Lienzo(QSize tamanyo, double relacion) {
-    Redimensiona(tamanyo, relacion);
+Lienzo::Lienzo(QSize pixeles, double relacion) {
+    Redimensiona(pixeles, relacion);
 }
 
 void Lienzo::Redimensiona(QSize pixeles, double relacion) {
