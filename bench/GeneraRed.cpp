@@ -7,8 +7,8 @@
 
 #include "file/Formato.h"
 #include "model/TipoElemento.h"
-#include "platform/Archivos.h"
 #include "platform/Numeros.h"
+#include "platform/Texto.h"
 
 namespace zel::bench {
 

@@ -3,7 +3,7 @@
 set -euo pipefail
 
 paquetes=(g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n libxml2-dev
+    qt6-base-dev qt6-svg-dev libqt6svg6 qt6-wayland qt6-translations-l10n libxml2-dev
     fonts-liberation2 fontconfig libgl-dev
     libgtest-dev libbenchmark-dev locales)
 

@@ -10,14 +10,18 @@ EsquemaLeido LeeEsquema(const std::string& ruta, std::function<void()> alCederTu
     lector.NombreArchivo(ruta);
     lector.Coleccion(elementos);
     lector.AlCederTurno(std::move(alCederTurno));
+    bool conRegistro = true;
     try {
         lector.Carga();
     } catch (const Error& error) {
-        return {nullptr, "contiene datos que no se pueden cargar. " + error.Description(), {}};
+        if (lector.Registro().empty()) {
+            return {nullptr, "contiene datos que no se pueden cargar. " + error.Description(), {}, false};
+        }
+        conRegistro = false;
     }
-    if (!lector.MotivoSinLeer().empty()) return {nullptr, lector.MotivoSinLeer(), {}};
-    if (elementos->Count() == 0) return {nullptr, "no contiene ningún elemento de un esquema", {}};
-    return {elementos, {}, lector.Registro()};
+    if (!lector.MotivoSinLeer().empty()) return {nullptr, lector.MotivoSinLeer(), {}, false};
+    if (elementos->Count() == 0 && !lector.EsEsquema()) return {nullptr, "no es un esquema", {}, false};
+    return {elementos, {}, lector.Registro(), conRegistro && !lector.Registro().empty()};
 }
 
 }  // namespace zel

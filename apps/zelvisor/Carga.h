@@ -12,7 +12,8 @@ namespace zel {
 struct EsquemaLeido {
     std::shared_ptr<Elementos> elementos;  // empty when the file could not be read
     std::string motivo;                    // why not, in words for the user
-    std::string problemas;                 // the load log: what was missing or repeated, a line each
+    std::string problemas;                 // what was missing or repeated, a line each
+    bool conRegistro = false;              // they are in the load log too
 };
 
 EsquemaLeido LeeEsquema(const std::string& ruta, std::function<void()> alCederTurno = {});

@@ -40,9 +40,9 @@ void EscribeProblemas(const std::string& problemas) {
 int Exporta(const QString& entrada, const QString& salida, const QString& ancho) {
     bool esNumero = true;
     const int pixeles = ancho.isEmpty() ? ANCHO_NORMAL_DE_IMAGEN : ancho.toInt(&esNumero);
-    if (!esNumero || pixeles < ANCHO_MINIMO_DE_IMAGEN || pixeles > ANCHO_MAXIMO_DE_IMAGEN) {
+    if (!esNumero || pixeles < ANCHO_MINIMO_DE_IMAGEN || pixeles > LADO_MAXIMO_DE_IMAGEN) {
         std::cerr << "zelvisor: el ancho ha de ser un número de píxeles entre " << ANCHO_MINIMO_DE_IMAGEN
-                  << " y " << ANCHO_MAXIMO_DE_IMAGEN << ".\n";
+                  << " y " << LADO_MAXIMO_DE_IMAGEN << ".\n";
         return MAL_USO;
     }
     if (!salida.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive)) {
@@ -89,7 +89,8 @@ int Informa(const QString& entrada) {
     if (leido.problemas.empty()) {
         std::cout << "Problemas de carga: ninguno\n";
     } else {
-        std::cout << "Problemas de carga (también en ErroresCarga.log):\n";
+        std::cout << "Problemas de carga" << (leido.conRegistro ? " (también en ErroresCarga.log)" : "")
+                  << ":\n";
         EscribeProblemas(leido.problemas);
     }
     return 0;

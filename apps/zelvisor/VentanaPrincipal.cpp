@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QWheelEvent>
+#include <cmath>
 
 #include "Carga.h"
 #include "control/Esquema.h"
@@ -21,6 +22,14 @@ constexpr double ACERCA = 0.5;  // of the visible area
 constexpr double ALEJA = 2.0;
 constexpr double PASO = 0.1;  // of the visible width or height
 constexpr double GRADOS_POR_MUESCA = 120;
+
+class CursorDeEspera {
+  public:
+    CursorDeEspera() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    CursorDeEspera(const CursorDeEspera&) = delete;
+    CursorDeEspera& operator=(const CursorDeEspera&) = delete;
+    ~CursorDeEspera() { QApplication::restoreOverrideCursor(); }
+};
 
 // Runs what may fail and tells the user; nothing may leave an event handler.
 template <typename Accion>
@@ -47,6 +56,10 @@ VentanaPrincipal::VentanaPrincipal() : esquema_(new Esquema(this)), region_(new 
             statusBar()->showMessage(
                 tr("No se ha podido dibujar todo (%1): %2").arg(fallos.size()).arg(fallos.first()));
     });
+    connect(esquema_, &Esquema::ErrorEnEvento, this,
+            [this](qint32, const QString&, const QString& descripcion) {
+                statusBar()->showMessage(descripcion);
+            });
     CreaMenus();
     setWindowTitle(QGuiApplication::applicationDisplayName());
     resize(1280, 860);
@@ -73,12 +86,10 @@ void VentanaPrincipal::PreguntaYAbre() {
 }
 
 void VentanaPrincipal::Abre(const QString& ruta) {
-    if (leyendo_) return;
-    leyendo_ = true;
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const EsquemaLeido leido = LeeEsquema(ruta.toStdString());
-    QApplication::restoreOverrideCursor();
-    leyendo_ = false;
+    const EsquemaLeido leido = [&] {
+        const CursorDeEspera espera;
+        return LeeEsquema(ruta.toStdString());
+    }();
     if (!leido.elementos) {
         dialogos().MsgBox("No se puede abrir \"" + ruta.toStdString() + "\": " + leido.motivo +
                           ".\n\nCompruebe la ruta y que el archivo es un esquema en XML.");
@@ -88,18 +99,31 @@ void VentanaPrincipal::Abre(const QString& ruta) {
     esquema_->ResizeGrafo();
     setWindowTitle(QFileInfo(ruta).fileName() + QStringLiteral(" - ") +
                    QGuiApplication::applicationDisplayName());
-    if (!leido.problemas.empty()) {
-        dialogos().MsgBox(
-            "El esquema se ha abierto, pero faltaban datos o se repetían. Consulte el archivo " +
-            QDir::current().filePath(QStringLiteral("ErroresCarga.log")).toStdString() + ".");
+    if (leido.problemas.empty()) return;
+    std::string aviso = "El esquema se ha abierto, pero faltaban datos o se repetían.";
+    if (leido.conRegistro) {
+        aviso += " Consulte el archivo " +
+                 QDir::current().filePath(QStringLiteral("ErroresCarga.log")).toStdString() + ".";
+    } else {
+        aviso += leido.problemas;
     }
+    dialogos().MsgBox(aviso);
+}
+
+// A closer view for each notch away from the user; a touchpad sends parts of a notch.
+void VentanaPrincipal::CambiaZoomConRueda(double muescas) {
+    const bool acercando = muescas > 0;
+    if (muescas == 0 || negado_ == (acercando ? Sentido::Cerca : Sentido::Lejos)) return;
+    const bool hecho = esquema_->CambiaZoom(std::pow(ACERCA, muescas));
+    // One notice is enough: the wheel goes on turning.
+    negado_ = hecho ? Sentido::Ninguno : acercando ? Sentido::Cerca : Sentido::Lejos;
 }
 
 void VentanaPrincipal::wheelEvent(QWheelEvent* evento) {
     DiloSiFalla([&] {
         const double muescas = evento->angleDelta().y() / GRADOS_POR_MUESCA;
         if (evento->modifiers() & Qt::ControlModifier)
-            esquema_->CambiaZoom(muescas > 0 ? ACERCA : ALEJA);
+            CambiaZoomConRueda(muescas);
         else if (evento->modifiers() & Qt::ShiftModifier)
             esquema_->DesplazaVista(-muescas * PASO, 0);
         else

@@ -25,10 +25,14 @@ class VentanaPrincipal : public QMainWindow {
   private:
     void CreaMenus();
     void PreguntaYAbre();
+    void CambiaZoomConRueda(double muescas);
+
+    // The direction in which the last turn of the wheel reached the end of the zoom.
+    enum class Sentido { Ninguno, Cerca, Lejos };
 
     Esquema* esquema_;
     QLabel* region_;
-    bool leyendo_ = false;
+    Sentido negado_ = Sentido::Ninguno;
 };
 
 }  // namespace zel

@@ -30,7 +30,11 @@ bool PideAyuda(int argc, char** argv) {
     });
 }
 
-bool HayPantalla() {
+bool HayPantalla(int argc, char** argv) {
+    if (std::any_of(argv + 1, argv + argc, [](const char* a) {
+            return EsUnaDe(a, {"-platform", "--platform"});
+        }))
+        return true;
     const auto hay = [](const char* variable) { return !qEnvironmentVariableIsEmpty(variable); };
     return hay("DISPLAY") || hay("WAYLAND_DISPLAY") || hay("QT_QPA_PLATFORM");
 }
@@ -70,10 +74,10 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qInstallMessageHandler(CallaAvisos);
     }
-    if (!HayPantalla()) {
-        std::cerr << "zelvisor: no hay pantalla en la que abrir la ventana. Ejecútelo en una sesión gráfica, "
-                     "o dibuje el "
-                     "esquema en una imagen:\n  zelvisor exportar ENTRADA SALIDA.png\n";
+    if (!HayPantalla(argc, argv)) {
+        std::cerr << "zelvisor: no hay pantalla en la que abrir la ventana.\n"
+                     "Ejecútelo en una sesión gráfica, o dibuje el esquema en una imagen:\n"
+                     "  zelvisor exportar ENTRADA SALIDA.png\n";
         return 1;
     }
     const QApplication programa(argc, argv);

@@ -1,9 +1,11 @@
 #include "control/Esquema.h"
 
 #include <QResizeEvent>
+#include <QShowEvent>
 
 #include "control/Panel.h"
 #include "drawing/Pintor.h"
+#include "model/modErrorHandling.h"
 #include "session/Vista.h"
 
 namespace zel {
@@ -16,7 +18,22 @@ struct Esquema::Partes : public Anfitrion {
           avisos(trabajo, refresco),
           vista(panel->lienzo(), documento, trabajo, refresco, avisos, *this) {
         panel->lienzo().AlRefrescar([this] { Pinta(); });
-        QObject::connect(panel, &Panel::Redimensionado, &esquema, [this] { Dispone(); });
+        panel->setGeometry(esquema.rect());
+        Dispone();
+        QObject::connect(panel, &Panel::Redimensionado, &esquema,
+                         [this] { EnEvento([this] { Dispone(); }); });
+    }
+
+    // The one boundary between the control's failures and the platform's events.
+    template <typename Accion>
+    void EnEvento(Accion accion) {
+        try {
+            accion();
+        } catch (...) {
+            const Fallo fallo = FalloEnCurso();
+            emit esquema.ErrorEnEvento(fallo.Number(), QString::fromStdString(fallo.Source()),
+                                       QString::fromStdString(fallo.Description()));
+        }
     }
 
     void TextoEstado(int panelDeEstado, const std::string& texto) override {
@@ -33,7 +50,7 @@ struct Esquema::Partes : public Anfitrion {
         ajustes.iEstado = trabajo.iEstado;
         ajustes.iTipoHerramienta = trabajo.iTipoHerramienta;
         ajustes.EscalaDibujo = vista.EscalaDibujo();
-        ajustes.bVistaActualizada = true;
+        ajustes.bVistaActualizada = vista.bVistaActualizada();
         ajustes.bMostrarLineasOcultas = documento.bMostrarLineasOcultas;
         QStringList nuevos;
         for (const auto& descripcion :
@@ -54,6 +71,8 @@ struct Esquema::Partes : public Anfitrion {
     Avisos avisos;
     Vista vista;
     QStringList fallos;
+    bool seHaMostrado = false;
+    bool ajustaAlMostrar = false;
 };
 
 Esquema::Esquema(QWidget* padre) : QWidget(padre), partes_(std::make_unique<Partes>(*this)) {}
@@ -63,25 +82,30 @@ std::shared_ptr<Elementos> Esquema::GetElementos() const {
     return partes_->documento.colElementos;
 }
 
-void Esquema::GetElementos(std::shared_ptr<Elementos> elementos) {
+void Esquema::GetElementos(std::shared_ptr<Elementos> elementos) try {
     if (!elementos) throw Fallo(91);
     partes_->documento.colElementos = std::move(elementos);
     partes_->refresco.PedirRefresco();
     partes_->refresco.RefrescarSiPendiente();
+} catch (...) {
+    LanzaErrorVisor(partes_->trabajo.iEstado, ". Error en Property Set GetElementos (Esquema)");
 }
 
 void Esquema::ResizeGrafo() {
+    partes_->ajustaAlMostrar = !partes_->seHaMostrado;
     partes_->vista.AjustarImagen(partes_->panel->lienzo(), 1);
 }
 
-void Esquema::CambiaZoom(double factor) {
+bool Esquema::CambiaZoom(double factor) {
     Vista& vista = partes_->vista;
-    vista.AjustarZoomUsuario(partes_->panel->lienzo(), static_cast<float>(vista.Zoom() * factor), true, true,
-                             1);
+    vista.bVistaActualizada(true);
+    return vista.AjustarZoomUsuario(partes_->panel->lienzo(), static_cast<float>(vista.Zoom() * factor), true,
+                                    true, 1);
 }
 
 void Esquema::DesplazaVista(double ancho, double alto) {
     const Lienzo& panel = partes_->panel->lienzo();
+    partes_->vista.bVistaActualizada(true);
     partes_->vista.MueveScroll(panel.ScaleLeft() + panel.ScaleWidth() * static_cast<float>(0.5 + ancho),
                                panel.ScaleTop() + panel.ScaleHeight() * static_cast<float>(0.5 - alto), 1);
 }
@@ -89,6 +113,14 @@ void Esquema::DesplazaVista(double ancho, double alto) {
 void Esquema::resizeEvent(QResizeEvent* evento) {
     QWidget::resizeEvent(evento);
     partes_->panel->setGeometry(rect());
+}
+
+void Esquema::showEvent(QShowEvent* evento) {
+    QWidget::showEvent(evento);
+    partes_->seHaMostrado = true;
+    if (!partes_->ajustaAlMostrar) return;
+    partes_->ajustaAlMostrar = false;
+    partes_->EnEvento([this] { ResizeGrafo(); });
 }
 
 }  // namespace zel

@@ -16,7 +16,7 @@ namespace {
 
 // The scale at which symbols and texts have their nominal size: a world unit is a millimetre, plain text
 // has eight points.
-constexpr double PIXELES_POR_UNIDAD = 96 / 25.4;
+constexpr double PIXELES_POR_UNIDAD = PPP_NORMAL / 25.4;
 constexpr float PUNTOS_DEL_TEXTO = 8;
 
 constexpr float MARGEN = 4;        // world units around everything
@@ -40,7 +40,7 @@ Marco Contenido(const Elementos& elementos) {
     Marco marco;
     if (const auto extension = ExtensionDe(elementos, MARGEN)) marco = *extension;
     for (const auto& e : elementos) {
-        if (!e->MostrarEtiqueta()) continue;
+        if (!e->MostrarEtiqueta() || e->Nombre().empty()) continue;
         const CajaEtiqueta caja = MideEtiqueta(medidas, ajustes, *e, e->XPos(), e->YPos());
         marco.Crece(caja.X, caja.Y, MARGEN);
         marco.Crece(caja.X + caja.Ancho, caja.Y + caja.Alto, MARGEN);
@@ -52,6 +52,7 @@ Marco Contenido(const Elementos& elementos) {
 Marco Encuadre(const Elementos& elementos) {
     Marco marco = Contenido(elementos);
     if (marco.Xmin > marco.Xmax) marco.Crece(0, 0, 0);
+    LimitaAlMundo(marco);
     const float x = (marco.Xmin + marco.Xmax) / 2;
     const float y = (marco.Ymin + marco.Ymax) / 2;
     const double ancho = double{marco.Xmax} - marco.Xmin;
@@ -73,7 +74,11 @@ QImage ImagenDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, i
     const double anchoDelMundo = double{encuadre.Xmax} - encuadre.Xmin;
     const double proporcion = (double{encuadre.Ymax} - encuadre.Ymin) / anchoDelMundo;
     const QSize tamanyo(ancho, std::max(1, static_cast<int>(std::lround(ancho * proporcion))));
-    if (tamanyo.height() > ANCHO_MAXIMO_DE_IMAGEN) throw Fallo(7);
+    if (tamanyo.height() > LADO_MAXIMO_DE_IMAGEN) {
+        throw Fallo(5, "La imagen sería demasiado alta. Pida un ancho de " +
+                           std::to_string(static_cast<int>(LADO_MAXIMO_DE_IMAGEN / proporcion)) +
+                           " píxeles o menos");
+    }
     Lienzo lienzo;
     lienzo.Redimensiona(tamanyo, ancho / (anchoDelMundo * PIXELES_POR_UNIDAD));
     lienzo.ScaleLeft(encuadre.Xmin);
@@ -84,7 +89,7 @@ QImage ImagenDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, i
          PintaEsquema(lienzo, AjustesNominales(lienzo, bMostrarLineasOcultas), elementos, elementos)) {
         fallos << QString::fromStdString(fallo);
     }
-    return lienzo.Imagen().copy();
+    return lienzo.Entrega();
 }
 
 }  // namespace zel

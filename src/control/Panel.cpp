@@ -3,8 +3,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QResizeEvent>
-
-#include "platform/Fallo.h"
+#include <QTimer>
 
 namespace zel {
 
@@ -15,7 +14,6 @@ constexpr double MM_POR_PULGADA = 25.4;
 Panel::Panel(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("Panel"));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    lienzo_.AlRefrescar([this] { update(); });
 }
 
 float Panel::AnchoMm() const {
@@ -31,13 +29,20 @@ void Panel::paintEvent(QPaintEvent* evento) {
     QPainter pintor(this);
     pintor.setClipRect(evento->rect());
     pintor.drawImage(QRectF(0, 0, imagen.width() / relacion, imagen.height() / relacion), imagen);
+    // On another screen: the image follows once this paint is over.
+    if (relacion != devicePixelRatioF()) QTimer::singleShot(0, this, [this] { PreparaLienzo(); });
 }
 
 void Panel::resizeEvent(QResizeEvent* evento) {
     QWidget::resizeEvent(evento);
+    PreparaLienzo();
+}
+
+void Panel::PreparaLienzo() {
     try {
-        lienzo_.Redimensiona((QSizeF(size()) * devicePixelRatioF()).toSize(), devicePixelRatioF());
-    } catch (const Fallo&) {
+        const double relacion = devicePixelRatioF();
+        lienzo_.Redimensiona((QSizeF(size()) * relacion).toSize(), relacion, logicalDpiX());
+    } catch (const std::exception&) {
         return;  // no memory for an image of this size: the earlier one stays
     }
     emit Redimensionado();

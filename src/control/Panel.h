@@ -14,6 +14,7 @@ class Panel : public QWidget {
   public:
     explicit Panel(QWidget* padre = nullptr);
 
+    // What its Refresh does is up to who owns the panel.
     Lienzo& lienzo() noexcept { return lienzo_; }
 
     // Millimetres at the panel's logical resolution.
@@ -29,6 +30,8 @@ class Panel : public QWidget {
     void resizeEvent(QResizeEvent* evento) override;
 
   private:
+    void PreparaLienzo();
+
     Lienzo lienzo_;
 };
 

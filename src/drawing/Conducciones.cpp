@@ -184,6 +184,7 @@ PuntoXY PtoContorno(float x1, float y1, float x2, float y2, std::optional<float>
 std::shared_ptr<Puntos> EncuadreConduccion(const Elemento& elemento, std::int32_t iEstado) try {
     if (!EsLineal(elemento.Tipo())) return nullptr;
     if (!elemento.Trazado()) throw Fallo(91);
+    if (elemento.Trazado()->Count() == 0) throw Fallo(9);
     Marco marco;
     marco.Crece(*elemento.Trazado(), 0);
     if (elemento.Tipo() >= ctAportacion) marco.Crece(elemento.XPos(), elemento.YPos(), 0);

@@ -6,6 +6,7 @@
 #include "drawing/Colores.h"
 #include "drawing/Fuente.h"
 #include "drawing/Marco.h"
+#include "drawing/PartesDelDibujo.h"
 
 namespace zel {
 
@@ -64,13 +65,15 @@ void DibujaEtiquetas(Superficie& panel, const AjustesDibujo& ajustes, const Elem
     if (!ajustes.bMostrarEtiquetas) return;
     PreparaNegro(panel);
     const Alcance alcance(panel, ajustes);
+    PartesDelDibujo etiquetas;
     if (bSoloSeleccionado && elemSeleccionado) {
         DibujaEtiqueta(panel, ajustes, *elemSeleccionado, alcance);
     } else {
         for (const auto& e : elementos)
-            DibujaEtiqueta(panel, ajustes, *e, alcance);
+            etiquetas.Dibuja([&] { DibujaEtiqueta(panel, ajustes, *e, alcance); });
     }
     PonFuente(panel, ajustes.FactorFuente(panel), ajustes.iEstado);
+    etiquetas.Termina();
 } catch (...) {
     LanzaErrorVisor(ajustes.iEstado, ". ErrDibujaEtiquetas (Esquema)");
 }

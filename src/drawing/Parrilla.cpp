@@ -1,8 +1,8 @@
+#include "drawing/Parrilla.h"
+
 #include <algorithm>
-#include <cmath>
 
 #include "drawing/Colores.h"
-#include "drawing/Simbolos.h"
 #include "model/TamanyoUnidad.h"
 #include "model/modErrorHandling.h"
 #include "platform/Numeros.h"

@@ -1,13 +1,14 @@
 #include "drawing/Simbolos.h"
 
 #include <cmath>
-#include <exception>
 
 #include "drawing/Colores.h"
 #include "drawing/Conducciones.h"
 #include "drawing/Etiquetas.h"
 #include "drawing/Fuente.h"
 #include "drawing/Geometria.h"
+#include "drawing/Parrilla.h"
+#include "drawing/PartesDelDibujo.h"
 #include "model/TamanyoUnidad.h"
 #include "platform/Numeros.h"
 
@@ -86,25 +87,6 @@ void DibujaEtiquetaFantasma(Superficie& panel, const AjustesDibujo& ajustes, con
     panel.Caja({caja.X, caja.Y}, {caja.X + caja.Ancho, caja.Y + caja.Alto});
     PreparaNegro(panel);
 }
-
-// Runs every part, also after one that fails, and then raises the first failure.
-class PartesDelDibujo {
-  public:
-    template <typename Parte>
-    void Dibuja(Parte parte) {
-        try {
-            parte();
-        } catch (...) {
-            if (!fallo_) fallo_ = std::current_exception();
-        }
-    }
-    void Termina() const {
-        if (fallo_) std::rethrow_exception(fallo_);
-    }
-
-  private:
-    std::exception_ptr fallo_;
-};
 
 using DibujaSimbolo = void (*)(Superficie&, const AjustesDibujo&, const Elemento&, bool, float, float);
 

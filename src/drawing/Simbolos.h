@@ -41,8 +41,4 @@ void DibujarCentralHE2(Superficie& panel, const AjustesDibujo& ajustes, float X,
                        const std::string& textoNumero, float Tamanyo, std::optional<std::int32_t> ColorIcono,
                        bool bFantasma);
 
-// The dots inside an aquifer, half a percent of the visible width apart. Only while the view is up to date
-// and nothing is being drawn, chosen or dragged.
-void DibujaAcuiferoParrilla(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e);
-
 }  // namespace zel

@@ -27,6 +27,7 @@ class Hallazgos {
         for (auto* nodo = SiguienteElemento(cima, cima); nodo; nodo = SiguienteElemento(nodo, cima)) {
             for (std::size_t i = 0; i < NUMERO_DE_HIJOS; ++i) {
                 if (nodo->name != nombres_[i]) continue;
+                if (nodo->ns && nodo->ns->prefix) break;  // another vocabulary's name
                 Lista& lista = listas_[i];
                 if (lista.Cuantos < 2) lista.Primeros[static_cast<std::size_t>(lista.Cuantos)] = nodo;
                 ++lista.Cuantos;

@@ -90,6 +90,7 @@ void lectorArchivo::Carga() try {
     textoAvisos_.clear();
     motivo_.clear();
     registro_.clear();
+    esEsquema_ = false;
     if (!coleccion_) throw Fallo(91);
     DocumentoXml documento;
     if (!documento.Carga(nombreArchivo_)) {
@@ -98,6 +99,7 @@ void lectorArchivo::Carga() try {
     }
     Lectura lectura(documento);
     xmlNode* const raiz = documento.Raiz();
+    esEsquema_ = raiz->name == documento.Nombre("Esquema");
     bool hayElementos = false;
     for (auto* nodo = raiz; nodo; nodo = SiguienteElemento(nodo, raiz)) {
         if (!lectura.delElemento.Es(nodo, Hijo::Elemento)) continue;

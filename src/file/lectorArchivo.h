@@ -33,9 +33,11 @@ class lectorArchivo {
     // the elements read before it stay in the collection.
     void Carga();
 
-    // Of the last Carga: why the file could not be read at all (empty when it could), and the text of its
-    // load log (empty when there was nothing to report).
+    // Of the last Carga: why the file could not be read at all (empty when it could), whether its root is
+    // that of a schematic, and the text of its load log (empty when there was nothing to report). When Carga
+    // raises and there is a log text, all was read and only the log could not be written.
     const std::string& MotivoSinLeer() const noexcept { return motivo_; }
+    bool EsEsquema() const noexcept { return esEsquema_; }
     const std::string& Registro() const noexcept { return registro_; }
 
   private:
@@ -60,6 +62,7 @@ class lectorArchivo {
     std::string textoErrores_;
     std::string textoAvisos_;
     std::string motivo_;
+    bool esEsquema_ = false;
     std::string registro_;
 };
 

@@ -30,4 +30,8 @@ std::optional<std::string_view> TextoMensaje(std::int32_t id) noexcept {
     return lugar->texto;
 }
 
+std::string_view TextoMensajeODesconocido(std::int32_t id) noexcept {
+    return TextoMensaje(id).value_or("Se ha producido un error desconocido.");
+}
+
 }  // namespace zel

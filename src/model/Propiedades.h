@@ -1,11 +1,11 @@
 #pragma once
 
 #include <algorithm>
-#include <cctype>
 #include <string>
 #include <string_view>
 
 #include "model/modErrorHandling.h"
+#include "platform/Texto.h"
 #include "platform/Variante.h"
 
 namespace zel {
@@ -35,26 +35,19 @@ struct Propiedad {
 
 // A row for a property whose read access is T::NOMBRE() and whose write access takes what
 // Variante::CONVERSION() gives.
-#define ZEL_PROPIEDAD(T, NOMBRE, CONVERSION, TEXTO_ESCRITURA, TEXTO_LECTURA)                                               \
-    {                                                                                                                      \
-#NOMBRE,                                                                                                           \
-            [](const T& objeto)                                                                                            \
-                 -> Variante { return objeto.NOMBRE(); },                                                                  \
-                                                       [](T & objeto,                                                      \
-                                                          const Variante&                                                  \
-                                                              valor) { objeto.NOMBRE(valor.CONVERSION()); },               \
-                                                                                                          TEXTO_ESCRITURA, \
-                                                                                                          TEXTO_LECTURA    \
-    }
+// clang-format off
+#define ZEL_PROPIEDAD(T, NOMBRE, CONVERSION, TEXTO_ESCRITURA, TEXTO_LECTURA)                  \
+    {#NOMBRE,                                                                                 \
+     [](const T& objeto) -> Variante { return objeto.NOMBRE(); },                             \
+     [](T& objeto, const Variante& valor) { objeto.NOMBRE(valor.CONVERSION()); },             \
+     TEXTO_ESCRITURA, TEXTO_LECTURA}
+// clang-format on
 
 template <typename Tabla>
 const auto& BuscaPropiedad(const Tabla& tabla, std::string_view nombre) {
-    const auto mismaLetra = [](unsigned char a, unsigned char b) {
-        return std::tolower(a) == std::tolower(b);
-    };
-    const auto fila = std::find_if(std::begin(tabla), std::end(tabla), [&](const auto& f) {
-        return std::equal(f.nombre.begin(), f.nombre.end(), nombre.begin(), nombre.end(), mismaLetra);
-    });
+    const std::string buscado = EnMinusculas(nombre);
+    const auto fila = std::find_if(std::begin(tabla), std::end(tabla),
+                                   [&](const auto& f) { return EnMinusculas(f.nombre) == buscado; });
     if (fila == std::end(tabla)) {
         throw Fallo(438, Fallo(438).Description() + ": " + std::string(nombre));
     }

@@ -5,9 +5,7 @@
 namespace zel {
 
 std::string TextoError(std::int32_t id, std::string_view texto, std::int32_t numero) {
-    if (id != TEXTO_LIBRE) {
-        return std::string(TextoMensaje(id).value_or("Se ha producido un error desconocido."));
-    }
+    if (id != TEXTO_LIBRE) return std::string(TextoMensajeODesconocido(id));
     const Fallo fallo = FalloEnCurso();
     std::string descripcion = fallo.Source();
     descripcion += texto;

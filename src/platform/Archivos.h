@@ -13,9 +13,6 @@ struct RutaPartida {
 };
 RutaPartida ParteRuta(std::string_view ruta);
 
-// The text in ISO-8859-1; a character outside it becomes "?".
-std::string Latin1(std::string_view utf8);
-
 // Writes a diagnostic log in the current directory, replacing an earlier one: the text in ISO-8859-1
 // between double quotes, then a line break. Inner quotes are not doubled.
 // Fails with the number of the system's reason (70 permission, 61 disk full, 75 ...).

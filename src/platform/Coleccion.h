@@ -7,12 +7,10 @@
 #include <vector>
 
 #include "platform/Fallo.h"
+#include "platform/Texto.h"
 #include "platform/Variante.h"
 
 namespace zel {
-
-// The text by which keys are compared: without regard to case, for ASCII and the Latin letters with accents.
-std::string ClavePlegada(std::string_view clave);
 
 // Keyed, ordered collection. Positions run from 1 in order of addition; an item may have a key, unique
 // without regard to case. Finding by position or key costs the same whatever the size; removing costs one
@@ -36,7 +34,7 @@ class Coleccion {
 
     void Add(T valor, const Variante& clave) {
         if (!clave.EsTexto()) throw Fallo(13);
-        const auto [lugar, nueva] = porClave_.try_emplace(ClavePlegada(clave.Texto()), valor);
+        const auto [lugar, nueva] = porClave_.try_emplace(EnMinusculas(clave.Texto()), valor);
         if (!nueva) throw Fallo(457);
         claves_.resize(valores_.size());
         claves_.push_back(&lugar->first);
@@ -54,7 +52,7 @@ class Coleccion {
 
     // The item under the key, or null.
     const T* Busca(std::string_view clave) const {
-        const auto lugar = porClave_.find(ClavePlegada(clave));
+        const auto lugar = porClave_.find(EnMinusculas(clave));
         return lugar == porClave_.end() ? nullptr : &lugar->second;
     }
 
@@ -63,7 +61,7 @@ class Coleccion {
             Quita(Indice(posicionOClave.Entero32()));
             return;
         }
-        const auto lugar = porClave_.find(ClavePlegada(posicionOClave.Texto()));
+        const auto lugar = porClave_.find(EnMinusculas(posicionOClave.Texto()));
         if (lugar == porClave_.end()) throw Fallo(5);
         std::size_t indice = 0;
         while (claves_[indice] != &lugar->first)

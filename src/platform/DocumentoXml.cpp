@@ -4,7 +4,9 @@
 #include <libxml/parserInternals.h>
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
+#include <utility>
 
 #include "platform/Fallo.h"
 
@@ -25,25 +27,102 @@ int LeeTrozo(void* archivo, char* destino, int cuanto) {
     return leido == 0 && std::ferror(f) != 0 ? -1 : static_cast<int>(leido);
 }
 
+// More elements than the largest schematic with long traces would have; it bounds the memory of a load.
+constexpr std::int64_t MAXIMO_DE_ELEMENTOS = 8'000'000;
+
+// One parse: its first failure, and what the parser's callbacks need.
+struct Analisis {
+    std::string motivo;
+    std::int64_t elementos = 0;
+
+    void Falla(std::string porQue) {
+        if (motivo.empty()) motivo = std::move(porQue);
+    }
+};
+
+Analisis& AnalisisDe(void* contexto) {
+    return *static_cast<Analisis*>(static_cast<xmlParserCtxt*>(contexto)->_private);
+}
+
+void Detiene(void* contexto, const char* motivo) {
+    AnalisisDe(contexto).Falla(motivo);
+    xmlStopParser(static_cast<xmlParserCtxt*>(contexto));
+}
+
 // Called when the document type has been read and before its internal subset is, if there is one: the
 // parser stops here, before any entity is declared.
-void AlDeclararTipo(void* ctxt, const xmlChar* nombre, const xmlChar* idPublico, const xmlChar* idSistema) {
-    auto* contexto = static_cast<xmlParserCtxt*>(ctxt);
-    xmlSAX2InternalSubset(ctxt, nombre, idPublico, idSistema);
-    if (contexto->input && *contexto->input->cur == '[') {
-        *static_cast<bool*>(contexto->_private) = true;
-        xmlStopParser(contexto);
+void AlDeclararTipo(void* contexto, const xmlChar* nombre, const xmlChar* idPublico,
+                    const xmlChar* idSistema) {
+    xmlSAX2InternalSubset(contexto, nombre, idPublico, idSistema);
+    const xmlParserInput* entrada = static_cast<xmlParserCtxt*>(contexto)->input;
+    if (entrada && *entrada->cur == '[') {
+        Detiene(contexto, "el documento declara tipos o entidades propios, que no se admiten");
     }
 }
 
-std::string MotivoDelAnalizador(const xmlError* error) {
-    if (!error || error->code == XML_ERR_OK) return "no es un documento XML";
-    std::string motivo = "el XML no está bien formado (línea " + std::to_string(error->line) + ": ";
-    motivo += error->message ? error->message : "error desconocido";
-    while (!motivo.empty() && motivo.back() == '\n')
-        motivo.pop_back();
-    return motivo + ")";
+void AlEmpezarElemento(void* contexto, const xmlChar* nombre, const xmlChar* prefijo, const xmlChar* uri,
+                       int espacios, const xmlChar** losEspacios, int atributos, int porDefecto,
+                       const xmlChar** losAtributos) {
+    if (++AnalisisDe(contexto).elementos > MAXIMO_DE_ELEMENTOS) {
+        Detiene(contexto, "el documento es demasiado grande");
+        return;
+    }
+    xmlSAX2StartElementNs(contexto, nombre, prefijo, uri, espacios, losEspacios, atributos, porDefecto,
+                          losAtributos);
 }
+
+const char* PorQue(int codigo) noexcept {
+    switch (codigo) {
+        case XML_ERR_DOCUMENT_EMPTY:
+            return "está vacío o no empieza como un documento XML";
+        case XML_ERR_DOCUMENT_END:
+            return "hay contenido detrás del elemento raíz";
+        case XML_ERR_TAG_NAME_MISMATCH:
+            return "una etiqueta de cierre no corresponde a la de apertura";
+        case XML_ERR_TAG_NOT_FINISHED:
+        case XML_ERR_GT_REQUIRED:
+        case XML_ERR_LTSLASH_REQUIRED:
+            return "una etiqueta está sin cerrar";
+        case XML_ERR_INVALID_CHAR:
+        case XML_ERR_INVALID_ENCODING:
+        case XML_ERR_UNKNOWN_ENCODING:
+        case XML_I18N_CONV_FAILED:
+            return "hay caracteres que no son de la codificación declarada";
+        case XML_ERR_UNSUPPORTED_ENCODING:
+            return "la codificación declarada no se conoce";
+        case XML_ERR_UNDECLARED_ENTITY:
+        case XML_WAR_UNDECLARED_ENTITY:
+            return "se usa una entidad sin declarar";
+        case XML_ERR_INTERNAL_ERROR:
+            return "un texto es demasiado largo o hay demasiados niveles";
+        default:
+            return "la sintaxis no es correcta";
+    }
+}
+
+// Everything that the parser reports, instead of its own words on the standard error stream. Warnings are
+// no reason to refuse a document, save the entity that would vanish from it.
+void AlFallar(void* analisis, xmlErrorPtr error) {
+    if (error->level < XML_ERR_ERROR && error->code != XML_WAR_UNDECLARED_ENTITY) return;
+    static_cast<Analisis*>(analisis)->Falla("el XML no está bien formado: en la línea " +
+                                            std::to_string(error->line) + ", " + PorQue(error->code));
+}
+
+// Installs the handler of failures for this thread while it lives: some of them reach no parser's own one.
+class EscuchaFallos {
+  public:
+    explicit EscuchaFallos(Analisis& analisis)
+        : contexto_(xmlStructuredErrorContext), funcion_(xmlStructuredError) {
+        xmlSetStructuredErrorFunc(&analisis, AlFallar);
+    }
+    EscuchaFallos(const EscuchaFallos&) = delete;
+    EscuchaFallos& operator=(const EscuchaFallos&) = delete;
+    ~EscuchaFallos() { xmlSetStructuredErrorFunc(contexto_, funcion_); }
+
+  private:
+    void* contexto_;
+    xmlStructuredErrorFunc funcion_;
+};
 
 }  // namespace
 
@@ -57,22 +136,21 @@ bool DocumentoXml::Carga(const std::string& nombreArchivo) {
     }
     const std::unique_ptr<xmlParserCtxt, SueltaContexto> contexto(xmlNewParserCtxt());
     if (!contexto) throw Fallo(7);
-    bool conSubconjunto = false;
-    contexto->_private = &conSubconjunto;
+    Analisis analisis;
+    const EscuchaFallos escucha(analisis);
+    contexto->_private = &analisis;
     contexto->sax->internalSubset = AlDeclararTipo;
-    constexpr int OPCIONES = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
+    contexto->sax->startElementNs = AlEmpezarElemento;
+    constexpr int OPCIONES = XML_PARSE_NONET | XML_PARSE_COMPACT;
     documento_.reset(
         xmlCtxtReadIO(contexto.get(), LeeTrozo, nullptr, archivo.get(), nullptr, nullptr, OPCIONES));
-    if (documento_ && contexto->wellFormed && !conSubconjunto && std::ferror(archivo.get()) == 0) return true;
-    documento_.reset();
     if (std::ferror(archivo.get()) != 0) {
         motivo_ = Fallo(75).Description();
-    } else if (conSubconjunto) {
-        motivo_ = "el documento declara entidades o tipos propios, que no se admiten";
-    } else {
-        motivo_ = MotivoDelAnalizador(xmlCtxtGetLastError(contexto.get()));
+    } else if (!documento_ || !contexto->wellFormed || !analisis.motivo.empty()) {
+        motivo_ = analisis.motivo.empty() ? "no es un documento XML" : analisis.motivo;
     }
-    return false;
+    if (!motivo_.empty()) documento_.reset();
+    return documento_ != nullptr;
 }
 
 const xmlChar* DocumentoXml::Nombre(const char* nombre) const noexcept {

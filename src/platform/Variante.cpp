@@ -1,20 +1,17 @@
 #include "platform/Variante.h"
 
-#include <algorithm>
-#include <cctype>
-#include <string_view>
-
 #include "platform/Numeros.h"
+#include "platform/Texto.h"
 
 namespace zel {
 
 namespace {
 
 std::string Recortado(const std::string& texto) {
-    const auto blanco = [](unsigned char c) { return std::isspace(c) != 0; };
-    const auto inicio = std::find_if_not(texto.begin(), texto.end(), blanco);
-    const auto fin = std::find_if_not(texto.rbegin(), texto.rend(), blanco).base();
-    return inicio < fin ? std::string(inicio, fin) : std::string();
+    constexpr const char* BLANCOS = " \t\r\n\f\v";
+    const std::size_t inicio = texto.find_first_not_of(BLANCOS);
+    if (inicio == std::string::npos) return {};
+    return texto.substr(inicio, texto.find_last_not_of(BLANCOS) - inicio + 1);
 }
 
 double NumeroDeTexto(const std::string& texto) {
@@ -24,9 +21,7 @@ double NumeroDeTexto(const std::string& texto) {
 }
 
 bool BooleanoDeTexto(const std::string& texto) {
-    std::string palabra = Recortado(texto);
-    std::transform(palabra.begin(), palabra.end(), palabra.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string palabra = EnMinusculas(Recortado(texto));
     if (palabra == "true" || palabra == "verdadero") return true;
     if (palabra == "false" || palabra == "falso") return false;
     return NumeroDeTexto(palabra) != 0;

@@ -15,7 +15,7 @@ bool NoTocaElDibujo(std::int16_t id) noexcept {
 }
 
 std::string Texto(std::int16_t id) {
-    return std::string(TextoMensaje(BASE_MENSAJES + id).value_or("Se ha producido un error desconocido."));
+    return std::string(TextoMensajeODesconocido(BASE_MENSAJES + id));
 }
 
 }  // namespace

@@ -6,6 +6,23 @@ namespace zel {
 
 namespace {
 
+struct Limites {
+    float inferior, superior;
+
+    // True when the value was outside; it is brought one unit inside then.
+    bool Limita(float& valor) const noexcept {
+        if (!(valor > inferior))  // also what is no number
+            valor = inferior + 1;
+        else if (valor >= superior)
+            valor = superior - 1;
+        else
+            return false;
+        return true;
+    }
+};
+
+constexpr Limites MUNDO_X{-4000, 5000000};
+constexpr Limites MUNDO_Y{-5000, 2500000};
 bool TieneTrazado(const Elemento& e) noexcept {
     return TipoConocido(e.Tipo()) && EsLineal(e.Tipo());
 }
@@ -15,6 +32,15 @@ void Crece(Marco& marco, const Elemento& e, float margen) {
     if (!TieneTrazado(e)) return;
     marco.Crece(*e.Trazado(), margen);
     if (e.Trazado2()) marco.Crece(*e.Trazado2(), margen);
+}
+
+// A unit at least between two bounds of the world, towards its inside.
+void DaUnidad(const Limites& mundo, float& minimo, float& maximo) noexcept {
+    if (maximo - minimo >= 1) return;
+    if (minimo + 1 < mundo.superior)
+        maximo = minimo + 1;
+    else
+        minimo = maximo - 1;
 }
 
 }  // namespace
@@ -31,6 +57,23 @@ std::optional<Marco> ExtensionDe(const Elementos& elementos, float margen) {
         marco->Crece(marco->Xmin, marco->Ymin, TamanyoUnidad());
     }
     return marco;
+}
+
+bool LimitaAlMundo(Marco& marco) noexcept {
+    bool limitado = MUNDO_X.Limita(marco.Xmin);
+    limitado = MUNDO_X.Limita(marco.Xmax) || limitado;
+    limitado = MUNDO_Y.Limita(marco.Ymin) || limitado;
+    limitado = MUNDO_Y.Limita(marco.Ymax) || limitado;
+    if (limitado) {
+        DaUnidad(MUNDO_X, marco.Xmin, marco.Xmax);
+        DaUnidad(MUNDO_Y, marco.Ymin, marco.Ymax);
+    }
+    return limitado;
+}
+
+void LimitaAlMundo(float& x, float& y) noexcept {
+    MUNDO_X.Limita(x);
+    MUNDO_Y.Limita(y);
 }
 
 }  // namespace zel

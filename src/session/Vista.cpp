@@ -11,36 +11,12 @@ namespace zel {
 
 namespace {
 
-struct Limites {
-    float inferior, superior;
-
-    // True when the value was outside; it is brought one unit inside then.
-    bool Limita(float& valor) const noexcept {
-        if (valor <= inferior)
-            valor = inferior + 1;
-        else if (valor >= superior)
-            valor = superior - 1;
-        else
-            return false;
-        return true;
-    }
-};
-
-constexpr Limites MUNDO_X{-4000, 5000000};
-constexpr Limites MUNDO_Y{-5000, 2500000};
 constexpr float AREA_MUNDO = 5004000.0F * 2505000.0F;
 
 constexpr std::int16_t MAXIMO_ZOOM = 111;
 constexpr std::int16_t MINIMO_ZOOM = 112;
 constexpr double VISTA_MAS_CERCANA = 10;  // units of TamanyoUnidad across the view
 constexpr double TOLERANCIA = 1e-5;
-
-bool LimitaAlMundo(Marco& marco) noexcept {
-    bool limitado = MUNDO_X.Limita(marco.Xmin);
-    limitado = MUNDO_X.Limita(marco.Xmax) || limitado;
-    limitado = MUNDO_Y.Limita(marco.Ymin) || limitado;
-    return MUNDO_Y.Limita(marco.Ymax) || limitado;
-}
 
 float Area(const Marco& marco) noexcept {
     return (marco.Xmax - marco.Xmin) * (marco.Ymax - marco.Ymin);
@@ -90,6 +66,7 @@ void Vista::Dispone(float ancho, float alto) try {
         panel_.ScaleWidth(ancho * unidadesPorMm);
         panel_.ScaleHeight(-alto * unidadesPorMm);
         escalaDibujo_ = escalaDibujo_ / anterior * panel_.ScaleWidth();
+        PonAreaActiva(areaActiva_);
     }
     anchoPanel_ = ancho;
     relacionAspecto_ = std::abs(panel_.ScaleWidth() / panel_.ScaleHeight());
@@ -100,8 +77,7 @@ void Vista::Dispone(float ancho, float alto) try {
 void Vista::MueveScroll(float x, float y, std::int16_t modo) try {
     refresco_.AnularRefresco();
     refresco_.PedirRefresco();
-    MUNDO_X.Limita(x);
-    MUNDO_Y.Limita(y);
+    LimitaAlMundo(x, y);
     panel_.ScaleLeft(x - panel_.ScaleWidth() / 2);
     panel_.ScaleTop(y - panel_.ScaleHeight() / 2);
     if (modo == 1) refresco_.RefrescarSiPendiente();
@@ -109,7 +85,7 @@ void Vista::MueveScroll(float x, float y, std::int16_t modo) try {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrMueveScroll (Esquema)");
 }
 
-// Zoom is the visible area over AreaActiva, also right after AreaActiva has changed.
+// Zoom is the visible area over AreaActiva, also right after either has changed.
 void Vista::PonAreaActiva(float area) noexcept {
     areaActiva_ = area;
     zoom_ = std::abs(panel_.ScaleWidth() * panel_.ScaleHeight()) / areaActiva_;
@@ -158,6 +134,7 @@ bool Vista::AjustarZoomUsuario(Superficie& picture, float z, bool bMantenerCentr
         return false;
     }
     s = anchoVisible();
+    if (!(s > 0) || !std::isfinite(s)) throw Fallo(6);
     refresco_.AnularRefresco();
     refresco_.PedirRefresco();
     PuntoXY centro{picture.ScaleLeft() + picture.ScaleWidth() / 2,

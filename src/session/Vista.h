@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <memory>
 
-#include "drawing/AjustesDibujo.h"
 #include "drawing/Marco.h"
 #include "session/Anfitrion.h"
 #include "session/Avisos.h"
@@ -55,7 +54,9 @@ class Vista {
     const Marco& RegionActiva() const noexcept { return regionActiva_; }
     float AreaActiva() const noexcept { return areaActiva_; }
     float Zoom() const noexcept { return zoom_; }
+    // Aquifers show their dots only while it is set. The fit sets it, a layout clears it.
     bool bVistaActualizada() const noexcept { return bVistaActualizada_; }
+    void bVistaActualizada(bool valor) noexcept { bVistaActualizada_ = valor; }
 
   private:
     void PrimeraDisposicion();

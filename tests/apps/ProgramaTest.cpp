@@ -86,7 +86,7 @@ TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
         {"exportar " + CUENCA + " no/hay/salida.png", 1, "no se puede escribir"},
         {"exportar nada.xml salida.png", 2, "No se ha encontrado el archivo"},
         {"info .", 2, "no se puede leer \".\""},
-        {"info " + roto, 2, "no está bien formado"},
+        {"info " + roto, 2, "no está bien formado: en la línea 1, una etiqueta está sin cerrar"},
         {"info " + repetido, 2, "La clave ya está en la colección"},
     };
     for (const auto& caso : casos) {
@@ -110,9 +110,12 @@ TEST(Ventana, AFileThatCannotBeOpenedLeavesTheOneThatWas) {
 
     dialogos.Espera("No se puede abrir \"nada.xml\"");
     ventana.Abre(QStringLiteral("nada.xml"));
-    dialogos.Espera("no contiene ningún elemento");
-    ventana.Abre(QString::fromStdString(carpeta.Escribe("vacio.xml", "<Esquema/>")));
+    dialogos.Espera("no es un esquema");
+    ventana.Abre(QString::fromStdString(carpeta.Escribe("otro.xml", "<Otro/>")));
     EXPECT_EQ(esquema->GetElementos(), cuenca);
+
+    ventana.Abre(QString::fromStdString(carpeta.Escribe("vacio.xml", "<Esquema><Elementos/></Esquema>")));
+    EXPECT_EQ(esquema->GetElementos()->Count(), 0);
 
     dialogos.Espera("ErroresCarga.log");
     ventana.Abre(QString::fromStdString(carpeta.Escribe(

@@ -7,7 +7,7 @@
 #include <map>
 
 #include "control/Panel.h"
-#include "platform/Fallo.h"
+#include "model/modErrorHandling.h"
 
 namespace zel::pruebas {
 namespace {
@@ -54,7 +54,7 @@ TEST_F(EsquemaEnVentana, ANewSchematicIsFittedAndSeen) {
     EXPECT_EQ(estado[4], "Región mostrada: 100 %");
     EXPECT_TRUE(SeVe(0, 4));
     EXPECT_TRUE(SeVe(500, 504));
-    EXPECT_THROW(esquema.GetElementos(nullptr), Fallo);
+    EXPECT_THROW(esquema.GetElementos(nullptr), Error);
     EXPECT_EQ(esquema.GetElementos()->Count(), 2);
 }
 
@@ -71,6 +71,45 @@ TEST_F(EsquemaEnVentana, ResizingKeepsTheScaleAndTheCorner) {
     EXPECT_NEAR(Dibujo().ScaleWidth(), antes.Width * 1000 / 800, 0.01);
     EXPECT_NEAR(Dibujo().ScaleHeight(), antes.Height * 400 / 600, 0.01);
     EXPECT_TRUE(SeVe(500, 504)) << "not repainted after the resize";
+}
+
+TEST(Esquema, AFitAskedForBeforeItIsShownHoldsWhenItIs) {
+    Esquema esquema;
+    esquema.GetElementos(DosNudos(5000));
+    esquema.ResizeGrafo();
+    esquema.resize(1200, 900);
+    esquema.show();
+    QApplication::processEvents();
+    const Lienzo& dibujo = esquema.findChild<Panel*>()->lienzo();
+    EXPECT_LT(dibujo.ScaleLeft(), 0);
+    EXPECT_GT(dibujo.ScaleTop() + dibujo.ScaleHeight(), -1000)
+        << "not fitted to the size that it is shown in";
+    EXPECT_GT(dibujo.ScaleLeft() + dibujo.ScaleWidth(), 5000);
+}
+
+TEST_F(EsquemaEnVentana, ASchematicBeyondTheWorldDoesNotSpoilTheView) {
+    auto lejos = DosNudos(500);
+    for (const auto& e : *lejos)
+        e->YPos(e->YPos() + 4400000);
+    esquema.GetElementos(lejos);
+    esquema.ResizeGrafo();
+    esquema.CambiaZoom(2);
+    esquema.resize(900, 700);
+    QApplication::processEvents();
+    esquema.GetElementos(DosNudos(500));
+    esquema.ResizeGrafo();
+    EXPECT_TRUE(SeVe(0, 4));
+    EXPECT_TRUE(SeVe(500, 504));
+}
+
+TEST_F(EsquemaEnVentana, TheZoomGoesOnFromWhatAResizeShows) {
+    esquema.GetElementos(DosNudos(500));
+    esquema.ResizeGrafo();
+    esquema.resize(400, 300);
+    QApplication::processEvents();
+    const float ancho = Dibujo().ScaleWidth();
+    EXPECT_TRUE(esquema.CambiaZoom(0.25));
+    EXPECT_NEAR(Dibujo().ScaleWidth(), ancho / 2, 0.1);
 }
 
 TEST_F(EsquemaEnVentana, ZoomAndScrollMoveTheView) {

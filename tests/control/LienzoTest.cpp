@@ -109,6 +109,19 @@ TEST(Lienzo, AnInvertedOutlineHasNoHolesAtItsCorners) {
     EXPECT_EQ(Cuenta(hoja.Imagen(), EsBlanco), 100 * 80 - 2 * (20 + 40));
 }
 
+TEST(Lienzo, FlatBoxesAndReturningLinesAreSeen) {
+    Lienzo hoja;
+    Prepara(hoja);
+    hoja.Caja({10, 50}, {90, 50});
+    hoja.Caja({50, 10}, {50, 40});
+    EXPECT_NEAR(Cuenta(hoja.Imagen(), EsNegro), 81 + 31, 4);
+    hoja.Cls();
+    hoja.DrawMode(Superficie::MODO_INVERTIR);
+    const PuntoXY idaYVuelta[] = {{10, 20}, {90, 20}, {10, 20}};
+    hoja.Line(idaYVuelta);
+    EXPECT_NEAR(Cuenta(hoja.Imagen(), EsNegro), 80, 5);
+}
+
 TEST(Lienzo, AFilledBoxCoversItsInsideAndItsBorder) {
     for (const std::int16_t modo : {Superficie::MODO_COPIAR, Superficie::MODO_INVERTIR}) {
         Lienzo hoja;

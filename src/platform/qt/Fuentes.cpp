@@ -2,25 +2,25 @@
 
 #include <QFontMetricsF>
 #include <algorithm>
-#include <optional>
+
+#include "platform/Texto.h"
 
 namespace zel {
 
 namespace {
 
-constexpr double PUNTOS_POR_PIXEL = 72.0 / 96.0;  // the surfaces' images have 96 pixels per inch
-constexpr std::size_t TAMANYOS_GUARDADOS = 64;
+constexpr double PUNTOS_POR_PIXEL = 72.0 / PPP_NORMAL;
+constexpr int PIXELES_POR_METRO = 3780;  // PPP_NORMAL to the inch
+constexpr std::size_t TAMANYOS_GUARDADOS = 256;
+
+// A device of the surfaces' resolution: without one, Qt would measure for the screen's.
+QImage& Medidor() {
+    static QImage medidor = ImagenNormal({1, 1});
+    return medidor;
+}
 
 QString DeUtf8(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
-}
-
-// The next Latin-1 character of a UTF-8 text, or nothing when it is another one; i moves behind it.
-std::optional<unsigned char> SiguienteLatino(std::string_view texto, std::size_t& i) noexcept {
-    const auto c = static_cast<unsigned char>(texto[i++]);
-    if (c < 0x80) return c;
-    if ((c != 0xC2 && c != 0xC3) || i >= texto.size()) return std::nullopt;
-    return static_cast<unsigned char>(((c & 0x03U) << 6U) | (static_cast<unsigned char>(texto[i++]) & 0x3FU));
 }
 
 // Calls `accion` with each line of the text.
@@ -37,6 +37,13 @@ void PorLineas(std::string_view texto, Accion accion) {
 }
 
 }  // namespace
+
+QImage ImagenNormal(QSize pixeles) {
+    QImage imagen(pixeles.expandedTo({1, 1}), QImage::Format_RGB32);
+    imagen.setDotsPerMeterX(PIXELES_POR_METRO);
+    imagen.setDotsPerMeterY(PIXELES_POR_METRO);
+    return imagen;
+}
 
 FuenteDeTexto::FuenteDeTexto(const QString& familia, double alto) : fuente_(familia) {
     fuente_.setPointSizeF(alto * PUNTOS_POR_PIXEL);
@@ -60,12 +67,18 @@ FuenteDeTexto::FuenteDeTexto(const QString& familia, double alto) : fuente_(fami
     tirada_.setRawFont(cruda_);
 }
 
+// Null for a character that is not in the table.
+const FuenteDeTexto::Glifo* FuenteDeTexto::GlifoDe(char32_t caracter) const noexcept {
+    if (caracter >= latinos_.size() || latinos_[caracter].indice == 0) return nullptr;
+    return &latinos_[caracter];
+}
+
 double FuenteDeTexto::AnchoDeLinea(std::string_view linea) const {
     double ancho = 0;
     for (std::size_t i = 0; i < linea.size();) {
-        const auto c = SiguienteLatino(linea, i);
-        if (!c || latinos_[*c].indice == 0) return QFontMetricsF(fuente_).horizontalAdvance(DeUtf8(linea));
-        ancho += latinos_[*c].avance;
+        const Glifo* glifo = GlifoDe(SiguienteCaracter(linea, i));
+        if (!glifo) return QFontMetricsF(fuente_, &Medidor()).horizontalAdvance(DeUtf8(linea));
+        ancho += glifo->avance;
     }
     return ancho;
 }
@@ -85,11 +98,11 @@ bool FuenteDeTexto::Compone(std::string_view linea) {
     lugares_.clear();
     double x = 0;
     for (std::size_t i = 0; i < linea.size();) {
-        const auto c = SiguienteLatino(linea, i);
-        if (!c || latinos_[*c].indice == 0) return false;
-        indices_.push_back(latinos_[*c].indice);
+        const Glifo* glifo = GlifoDe(SiguienteCaracter(linea, i));
+        if (!glifo) return false;
+        indices_.push_back(glifo->indice);
         lugares_.emplace_back(x, 0);
-        x += latinos_[*c].avance;
+        x += glifo->avance;
     }
     return true;
 }
@@ -110,15 +123,16 @@ void FuenteDeTexto::Pinta(QPainter& pintor, QPointF esquina, const QColor& color
 }
 
 FuenteDeTexto& Fuentes::De(double alto) {
-    auto& fuente = porAlto_[alto];
-    if (!fuente) {
-        if (porAlto_.size() > TAMANYOS_GUARDADOS) {
-            porAlto_.clear();
-            return De(alto);
-        }
-        fuente = std::make_unique<FuenteDeTexto>(familia_, alto);
+    const auto [lugar, nueva] = porAlto_.try_emplace(alto);
+    Guardada& guardada = lugar->second;
+    guardada.uso = ++usos_;
+    if (nueva) guardada.fuente = std::make_unique<FuenteDeTexto>(familia_, alto);
+    if (porAlto_.size() > TAMANYOS_GUARDADOS) {
+        porAlto_.erase(std::min_element(porAlto_.begin(), porAlto_.end(), [](const auto& a, const auto& b) {
+            return a.second.uso < b.second.uso;
+        }));
     }
-    return *fuente;
+    return *guardada.fuente;
 }
 
 }  // namespace zel

@@ -2,16 +2,24 @@
 
 #include <QFont>
 #include <QGlyphRun>
+#include <QImage>
 #include <QPainter>
 #include <QRawFont>
 #include <QString>
 #include <array>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string_view>
 #include <vector>
 
 namespace zel {
+
+// The resolution of the surfaces' images, in pixels per inch.
+constexpr double PPP_NORMAL = 96;
+
+// An opaque RGB image of that resolution; null when there is no memory for it.
+QImage ImagenNormal(QSize pixeles);
 
 // The text of a drawing surface at one size. Latin texts are laid out glyph by glyph from a table, without
 // kerning and without hinting, so that widths grow evenly with the size; any other text goes through Qt's
@@ -34,6 +42,7 @@ class FuenteDeTexto {
 
     // The glyphs of one line, or nothing when some character is not in the table.
     bool Compone(std::string_view linea);
+    const Glifo* GlifoDe(char32_t caracter) const noexcept;
     double AnchoDeLinea(std::string_view linea) const;
 
     QFont fuente_;
@@ -46,15 +55,20 @@ class FuenteDeTexto {
     std::vector<QPointF> lugares_;
 };
 
-// The sizes in use.
+// The sizes in use. The one asked for last is always kept.
 class Fuentes {
   public:
     explicit Fuentes(QString familia) : familia_(std::move(familia)) {}
     FuenteDeTexto& De(double alto);
 
   private:
+    struct Guardada {
+        std::unique_ptr<FuenteDeTexto> fuente;
+        std::uint64_t uso = 0;
+    };
     QString familia_;
-    std::map<double, std::unique_ptr<FuenteDeTexto>> porAlto_;
+    std::map<double, Guardada> porAlto_;
+    std::uint64_t usos_ = 0;
 };
 
 }  // namespace zel

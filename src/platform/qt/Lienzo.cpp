@@ -1,5 +1,6 @@
 #include "platform/qt/Lienzo.h"
 
+#include <QPainterPath>
 #include <QPen>
 #include <algorithm>
 #include <cmath>
@@ -11,8 +12,6 @@ namespace zel {
 
 namespace {
 
-constexpr double PIXELES_POR_PUNTO = 96.0 / 72.0;
-constexpr int PIXELES_POR_METRO = 3780;  // 96 to the inch
 // Beyond this the rasterizer is not exact any more; strokes are cut there.
 constexpr double LEJOS = 30000;
 constexpr double LETRA_MINIMA = 1;  // pixels
@@ -73,19 +72,26 @@ Lienzo::Lienzo(QSize pixeles, double relacion) {
     Redimensiona(pixeles, relacion);
 }
 
-void Lienzo::Redimensiona(QSize pixeles, double relacion) {
-    QImage nueva(pixeles.expandedTo({1, 1}), QImage::Format_RGB32);
+void Lienzo::Redimensiona(QSize pixeles, double relacion, double ppp) {
+    QImage nueva = ImagenNormal(pixeles);
     if (nueva.isNull()) throw Fallo(7);
-    nueva.setDotsPerMeterX(PIXELES_POR_METRO);
-    nueva.setDotsPerMeterY(PIXELES_POR_METRO);
     nueva.fill(Qt::white);
     if (pintor_.isActive()) pintor_.end();
     imagen_ = std::move(nueva);
     pintor_.begin(&imagen_);
     relacion_ = relacion;
+    pixelesPorPunto_ = relacion * ppp / 72;
     hayPlumaPuesta_ = false;
     fuente_ = nullptr;
     puntos_.clear();
+}
+
+QImage Lienzo::Entrega() {
+    AsientaPuntos();
+    pintor_.end();
+    QImage imagen = std::move(imagen_);
+    Redimensiona({1, 1}, relacion_);
+    return imagen;
 }
 
 const QImage& Lienzo::Imagen() {
@@ -169,9 +175,13 @@ void Lienzo::Traza() {
         TrazaLejana();
         return;
     }
+    if (Invierte()) {
+        TrazaUnaVez();
+        return;
+    }
     if (n == 2) {
         pintor_.drawLine(cadena_[0], cadena_[1]);
-    } else if (cadena_.front() == cadena_.back()) {
+    } else if (n > 3 && cadena_.front() == cadena_.back()) {
         const QBrush relleno = pintor_.brush();
         if (relleno.style() != Qt::NoBrush) pintor_.setBrush(Qt::NoBrush);
         pintor_.drawPolygon(cadena_.data(), n - 1);
@@ -181,12 +191,37 @@ void Lienzo::Traza() {
     }
 }
 
+// The stroke as one area, so that no pixel is inverted twice where it crosses or covers itself.
+void Lienzo::TrazaUnaVez() {
+    QPainterPath camino(cadena_.front());
+    for (std::size_t i = 1; i < cadena_.size(); ++i)
+        camino.lineTo(cadena_[i]);
+    if (cadena_.size() > 3 && cadena_.front() == cadena_.back()) camino.closeSubpath();
+    QPainterPathStroker trazador(pintor_.pen());
+    trazador.setJoinStyle(Qt::MiterJoin);
+    QPainterPath area = trazador.createStroke(camino);
+    area.setFillRule(Qt::WindingFill);
+    pintor_.fillPath(area, Qt::black);
+}
+
+// A stroke that goes far beyond the image: the parts of it that are near, each as one stroke.
 void Lienzo::TrazaLejana() {
+    std::vector<QPointF> parte;
+    const auto dibuja = [&] {
+        if (parte.size() > 1) pintor_.drawPolyline(parte.data(), static_cast<int>(parte.size()));
+        parte.clear();
+    };
     for (std::size_t i = 1; i < cadena_.size(); ++i) {
         QPointF a = cadena_[i - 1];
         QPointF b = cadena_[i];
-        if (Recorta(a, b)) pintor_.drawLine(a, b);
+        if (!Recorta(a, b)) continue;
+        if (parte.empty() || parte.back() != a) {
+            dibuja();
+            parte.push_back(a);
+        }
+        parte.push_back(b);
     }
+    dibuja();
 }
 
 void Lienzo::Line(std::span<const PuntoXY> cadena) {
@@ -199,10 +234,10 @@ void Lienzo::Line(std::span<const PuntoXY> cadena) {
 
 void Lienzo::Caja(PuntoXY esquina, PuntoXY opuesta) {
     PonPluma();
-    const QRectF caja = QRectF(EnPixeles(esquina), EnPixeles(opuesta))
-                            .normalized()
-                            .intersected(QRectF(-LEJOS, -LEJOS, 2 * LEJOS, 2 * LEJOS));
-    if (caja.isEmpty() && caja.width() <= 0 && caja.height() <= 0) return;
+    const auto cerca = [](QPointF p) {
+        return QPointF(std::clamp(p.x(), -LEJOS, LEJOS), std::clamp(p.y(), -LEJOS, LEJOS));
+    };
+    const QRectF caja = QRectF(cerca(EnPixeles(esquina)), cerca(EnPixeles(opuesta))).normalized();
     if (pluma().FillStyle == RELLENO_SOLIDO) {
         const QRect entera(QPoint(qRound(caja.left()), qRound(caja.top())),
                            QPoint(qRound(caja.right()), qRound(caja.bottom())));
@@ -283,7 +318,7 @@ void Lienzo::Refresh() {
 FuenteDeTexto& Lienzo::Fuente() {
     if (!fuente_ || puntosDeFuente_ != FontSize()) {
         puntosDeFuente_ = FontSize();
-        const double alto = puntosDeFuente_ * PIXELES_POR_PUNTO * relacion_;
+        const double alto = puntosDeFuente_ * pixelesPorPunto_;
         const bool seVe = alto >= LETRA_MINIMA;
         fuente_ = &fuentes_.De(seVe ? alto : LETRA_DE_MEDIDA);
         reduccion_ = seVe ? 1 : alto / LETRA_DE_MEDIDA;

@@ -12,20 +12,22 @@
 
 namespace zel {
 
-// The drawing surface on Qt: an opaque RGB image and a painter on it. Pens and texts are measured in logical
-// pixels, 96 to the inch; `relacion` is the number of the image's pixels in a logical one, so that the same
-// drawing comes out sharp on any screen and at any width.
+// The drawing surface on Qt: an opaque RGB image and a painter on it. Pens are measured in logical pixels;
+// `relacion` is the number of the image's pixels in a logical one and `ppp` that of logical pixels in an
+// inch, so that the same drawing comes out sharp on any screen and at any width.
 class Lienzo : public Superficie {
   public:
     explicit Lienzo(QSize pixeles = {1, 1}, double relacion = 1);
 
     // Begins anew, white, in that many pixels of the image; a side below one counts as one. Fails with 7
     // when there is no memory for the image.
-    void Redimensiona(QSize pixeles, double relacion);
+    void Redimensiona(QSize pixeles, double relacion, double ppp = PPP_NORMAL);
 
     double Relacion() const noexcept { return relacion_; }
-    // All that has been drawn, in device pixels.
+    // All that has been drawn, in the image's pixels.
     const QImage& Imagen();
+    // The same, handed over; the surface begins anew with one pixel.
+    QImage Entrega();
 
     // What Refresh and MousePointer ask of the widget that shows the surface.
     void AlRefrescar(std::function<void()> accion) { alRefrescar_ = std::move(accion); }
@@ -56,11 +58,13 @@ class Lienzo : public Superficie {
     void PonPluma();
     void Ajusta(std::vector<QPointF>& puntos) const;
     void Traza();
+    void TrazaUnaVez();
     void TrazaLejana();
     void AsientaPuntos();
     FuenteDeTexto& Fuente();
 
     double relacion_ = 1;
+    double pixelesPorPunto_ = 1;
     QImage imagen_;
     QPainter pintor_;  // declared behind the image: it ends first
     Fuentes fuentes_{QStringLiteral("Arial")};

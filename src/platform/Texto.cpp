@@ -1,0 +1,41 @@
+#include "platform/Texto.h"
+
+namespace zel {
+
+char32_t SiguienteCaracter(std::string_view texto, std::size_t& i) noexcept {
+    const auto primero = static_cast<unsigned char>(texto[i++]);
+    unsigned siguientes = primero >= 0xF0 ? 3 : primero >= 0xE0 ? 2 : primero >= 0xC0 ? 1 : 0;
+    char32_t punto = siguientes == 0 ? primero : primero & (0x3FU >> siguientes);
+    for (; siguientes > 0 && i < texto.size(); --siguientes) {
+        punto = (punto << 6U) | (static_cast<unsigned char>(texto[i++]) & 0x3FU);
+    }
+    return punto;
+}
+
+std::string EnMinusculas(std::string_view texto) {
+    std::string minusculas(texto);
+    for (std::size_t i = 0; i < minusculas.size(); ++i) {
+        const auto c = static_cast<unsigned char>(minusculas[i]);
+        if (c >= 'A' && c <= 'Z') {
+            minusculas[i] = static_cast<char>(c + ('a' - 'A'));
+        } else if (c == 0xC3 && i + 1 < minusculas.size()) {
+            // The capitals U+00C0 to U+00DE stand 0x20 below their small letters; U+00D7 is the times sign.
+            const auto segundo = static_cast<unsigned char>(minusculas[++i]);
+            const bool mayuscula = segundo >= 0x80 && segundo <= 0x9E && segundo != 0x97;
+            if (mayuscula) minusculas[i] = static_cast<char>(segundo + 0x20);
+        }
+    }
+    return minusculas;
+}
+
+std::string Latin1(std::string_view texto) {
+    std::string latin1;
+    latin1.reserve(texto.size());
+    for (std::size_t i = 0; i < texto.size();) {
+        const char32_t punto = SiguienteCaracter(texto, i);
+        latin1.push_back(punto <= 0xFF ? static_cast<char>(punto) : '?');
+    }
+    return latin1;
+}
+
+}  // namespace zel
