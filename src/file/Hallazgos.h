@@ -25,9 +25,9 @@ class Hallazgos {
     void Recoge(xmlNode* cima) noexcept {
         listas_.fill({});
         for (auto* nodo = SiguienteElemento(cima, cima); nodo; nodo = SiguienteElemento(nodo, cima)) {
-            for (std::size_t i = 0; i < NUMERO_DE_HIJOS; ++i) {
+            if (nodo->ns && nodo->ns->prefix) continue;  // another vocabulary's name
+            for (const std::size_t i : POR_FRECUENCIA) {
                 if (nodo->name != nombres_[i]) continue;
-                if (nodo->ns && nodo->ns->prefix) break;  // another vocabulary's name
                 Lista& lista = listas_[i];
                 if (lista.Cuantos < 2) lista.Primeros[static_cast<std::size_t>(lista.Cuantos)] = nodo;
                 ++lista.Cuantos;
@@ -42,6 +42,22 @@ class Hallazgos {
     }
 
   private:
+    // The names in the order in which they are tried: most elements of a document are vertices of traces.
+    static constexpr auto POR_FRECUENCIA = [] {
+        std::array<std::size_t, NUMERO_DE_HIJOS> orden{};
+        std::size_t n = 0;
+        const auto esDeVertice = [](std::size_t i) {
+            return i == std::size_t(Hijo::X) || i == std::size_t(Hijo::Y) || i == std::size_t(Hijo::Punto);
+        };
+        for (std::size_t i = 0; i < NUMERO_DE_HIJOS; ++i) {
+            if (esDeVertice(i)) orden[n++] = i;
+        }
+        for (std::size_t i = 0; i < NUMERO_DE_HIJOS; ++i) {
+            if (!esDeVertice(i)) orden[n++] = i;
+        }
+        return orden;
+    }();
+
     std::array<const xmlChar*, NUMERO_DE_HIJOS> nombres_{};
     std::array<Lista, NUMERO_DE_HIJOS> listas_;
 };

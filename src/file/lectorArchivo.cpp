@@ -203,10 +203,10 @@ std::shared_ptr<Puntos> lectorArchivo::LeeTrazado(Lectura& lectura, xmlNode* lin
         return nullptr;
     };
     lectura.deLinea.Recoge(linea);
-    if (!AsignaPropiedad(lectura.deLinea, Hijo::Punto, 2, posicion, true)) {
-        return falla(". La línea no contiene puntos.");
-    }
+    const auto* puntos = AsignaPropiedad(lectura.deLinea, Hijo::Punto, 2, posicion, true);
+    if (!puntos) return falla(". La línea no contiene puntos.");
     auto trazado = std::make_shared<Puntos>();
+    trazado->Reserva(puntos->Cuantos);
     for (auto* nodo = SiguienteElemento(linea, linea); nodo; nodo = SiguienteElemento(nodo, linea)) {
         if (!lectura.deLinea.Es(nodo, Hijo::Punto)) continue;
         lectura.dePunto.Recoge(nodo);

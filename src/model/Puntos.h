@@ -27,6 +27,9 @@ class Puntos : public Objeto {
     void Valor3(float valor) noexcept { valor3_ = valor; }
     float Valor3() const noexcept { return valor3_; }
 
+    // Makes room for that many points at once.
+    void Reserva(std::int32_t cuantos) { puntos_.Reserva(cuantos); }
+
     // Appends a copy of aPunto, never aPunto itself. An empty key means none; any other is converted to its
     // text. Raises when there is no aPunto or the key is taken, and then appends nothing.
     void AddObjetoPunto(const std::shared_ptr<Punto>& aPunto, bool SoloCoordenadas = false,

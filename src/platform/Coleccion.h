@@ -27,6 +27,9 @@ class Coleccion {
     Coleccion& operator=(Coleccion&&) noexcept = default;
     ~Coleccion() = default;
 
+    // Makes room for that many items at once.
+    void Reserva(std::int32_t cuantos) { valores_.reserve(static_cast<std::size_t>(cuantos)); }
+
     void Add(T valor) {
         valores_.push_back(std::move(valor));
         if (!claves_.empty()) claves_.push_back(nullptr);

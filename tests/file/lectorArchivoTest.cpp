@@ -140,12 +140,13 @@ TEST_F(Lector, ReadsEveryPropertyInAnyOrderAndDepth) {
 TEST_F(Lector, KnowsEveryKindByItsCode) {
     const int CODIGOS[] = {10, 12, 30, 110, 50, 51, 52, 53, 54, 70, 60, 40, 80, 20, 90, 25};
     const std::string otra = "<Linea>" + PuntoXml("7", "8") + PuntoXml("9", "0") + "</Linea>";
-    std::vector<std::string> xml = {Xml(99, 99).Une(5, 6).Con(LINEA)};
+    std::vector<std::string> xml = {Xml(99, 99).Une(5, 6).Con(LINEA), Xml(0, 20).Une(5, 6).Con(LINEA)};
     for (int i = 0; i < 16; ++i)
         xml.push_back(Xml(i + 1, CODIGOS[i]).Une(5, 6).Con(LINEA + (i == 12 ? otra : "")));
     Carga(xml);
     EXPECT_EQ(elementos_->Item(1)->Tipo(), ctFlecha);
     EXPECT_EQ(elementos_->Item(1)->Trazado(), nullptr);
+    EXPECT_EQ(elementos_->ItemCodSIG(0)->ElemIni(), 5);
     for (int i = 0; i < 16; ++i) {
         const auto e = elementos_->ItemCodSIG(i + 1);
         EXPECT_EQ(e->Tipo(), i);
@@ -197,13 +198,14 @@ TEST_F(Lector, RebuildsTheTracesThatItCannotRead) {
     const std::string noSePudo = "\r\nNo se pudo cargar el trazado";
     const std::string vacia = " del elemento 1. La línea no contiene puntos.";
     const std::string corta = en1 + "sólo almacenó 1 etiquetas de la propiedad Punto." + noSePudo + vacia;
-    const std::string rota = sin + "X" + sin + "Y" + noSePudo +
-                             " del elemento 1. Algún punto del trazado no se guardó correctamente.";
+    const std::string rota =
+        noSePudo + " del elemento 1. Algún punto del trazado no se guardó correctamente.";
     const std::string aviso = "\r\nAviso: El elemento en la posición 1 presenta ";
     const std::string sobra = aviso + "2 propiedades Linea. Se cargaron los primeros 1 datos en el esquema.";
     const std::string sobran = aviso + "3 propiedades Linea. Se cargaron los primeros 2 datos en el esquema.";
     const std::string unPunto = "<Linea>" + PuntoXml("1", "2") + "</Linea>";
-    const std::string roto = "<Linea>" + PuntoXml("1", "2") + "<Punto/>" + PuntoXml("1", "2") + "</Linea>";
+    const std::string sinX = "<Linea>" + PuntoXml("1", "2") + "<Punto><Y>2</Y></Punto></Linea>";
+    const std::string sinY = "<Linea><Punto><X>1</X></Punto>" + PuntoXml("1", "2") + "</Linea>";
     const Camino recto = {{4.0F, 0.0F}, {96.0F, 0.0F}};
     const Camino hastaEl = {{4.0F, 0.0F}, {46.0F, 0.0F}};
     const Camino desdeEl = {{54.0F, 0.0F}, {96.0F, 0.0F}};
@@ -216,7 +218,8 @@ TEST_F(Lector, RebuildsTheTracesThatItCannotRead) {
         {50, 2, 3, "", recto, {}, nada},
         {50, 2, 3, "<Linea/>", recto, {}, sin + "Punto" + noSePudo + vacia},
         {50, 2, 3, unPunto, recto, {}, corta},
-        {40, 2, 3, roto, recto, {}, rota},
+        {40, 2, 3, sinX, recto, {}, sin + "X" + rota},
+        {50, 2, 3, sinY, recto, {}, sin + "Y" + rota},
         {70, 2, 3, LINEA + unPunto, LEIDO, {}, sobra},
         {50, 2, 9, "", {}, {}, nada},
         {50, 0, 3, "", {}, {}, nada},
@@ -227,14 +230,14 @@ TEST_F(Lector, RebuildsTheTracesThatItCannotRead) {
         {80, 2, 0, "", hastaEl, {}, nadaCentral},
         {80, 2, 3, LINEA + "<Linea/>", LEIDO, desdeEl, sin + "Punto" + noSePudo + " 2" + vacia},
         {80, 2, 3, "<Linea/>" + LINEA, hastaEl, LEIDO, sin + "Punto" + noSePudo + " 1" + vacia},
-        {80, 2, 3, LINEA + LINEA + roto, LEIDO, LEIDO, sobran},
+        {80, 2, 3, LINEA + LINEA + sinX, LEIDO, LEIDO, sobran},
     };
     for (const auto& fila : FILAS) {
         SCOPED_TRACE(&fila - FILAS);
         while (elementos_->Count() > 0)
             elementos_->Remove(1);
         Carga({Xml(1, fila.tipo, 50).Une(fila.ini, fila.fin).Con(fila.lineas), Xml(2, 10),
-               Xml(3, 12, 100).Pon("Tamanyo", "5")});
+               Xml(3, 12, 100).Pon("Tamanyo", "2"), Xml(0, 10, 7, 7)});
         EXPECT_EQ(De(elementos_->Item(1)->Trazado()), fila.trazado);
         EXPECT_EQ(De(elementos_->Item(1)->Trazado2()), fila.trazado2);
         EXPECT_EQ(lector_.Registro(), (fila.log.starts_with(aviso) ? "" : Cabecera()) + fila.log);
@@ -274,8 +277,9 @@ TEST_F(Lector, LoadsAgainAfterAnErrorAndAddsToWhatTheCollectionHolds) {
     lector_.AlCederTurno([&] { antes.push_back(elementos_->Count()); });
     ErrorDeCarga({Xml(1, 10).Quita("Valor"), Xml(1, 10)});
     Carga({Xml(2, 10), Xml(3, 10).Quita("Nombre")});
-    Carga({Xml(4, 10)});
+    Carga({});
     EXPECT_EQ(lector_.Registro(), "");
+    Carga({Xml(4, 10)});
     EXPECT_NE(Log().find("Nombre\"\r\n"), std::string::npos) << "nothing to report leaves the log alone";
     EXPECT_EQ(antes, (std::vector<std::int32_t>{0, 1, 1, 2, 3}));
     lector_.AlCederTurno([] { throw Fallo(5, "cerrado"); });
