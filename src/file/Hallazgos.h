@@ -25,7 +25,7 @@ class Hallazgos {
     void Recoge(xmlNode* cima) noexcept {
         listas_.fill({});
         for (auto* nodo = SiguienteElemento(cima, cima); nodo; nodo = SiguienteElemento(nodo, cima)) {
-            if (nodo->ns && nodo->ns->prefix) continue;  // another vocabulary's name
+            if (EsDeOtroVocabulario(nodo)) continue;
             for (const std::size_t i : POR_FRECUENCIA) {
                 if (nodo->name != nombres_[i]) continue;
                 Lista& lista = listas_[i];
@@ -38,10 +38,12 @@ class Hallazgos {
 
     const Lista& De(Hijo hijo) const noexcept { return listas_[static_cast<std::size_t>(hijo)]; }
     bool Es(const xmlNode* nodo, Hijo hijo) const noexcept {
-        return nodo->name == nombres_[static_cast<std::size_t>(hijo)];
+        return nodo->name == nombres_[static_cast<std::size_t>(hijo)] && !EsDeOtroVocabulario(nodo);
     }
 
   private:
+    static bool EsDeOtroVocabulario(const xmlNode* nodo) noexcept { return nodo->ns && nodo->ns->prefix; }
+
     // The names in the order in which they are tried: most elements of a document are vertices of traces.
     static constexpr auto POR_FRECUENCIA = [] {
         std::array<std::size_t, NUMERO_DE_HIJOS> orden{};

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "file/Conversion.h"
+#include "model/TrazadoRecto.h"
 #include "platform/Archivos.h"
 #include "platform/Numeros.h"
 
@@ -68,19 +69,10 @@ void Apunta(std::vector<std::int32_t>& lista, std::int32_t codigo) {
     if (codigo != 0) lista.push_back(codigo);
 }
 
-Punto PtoContorno(const Elemento& desde, const Elemento& hacia) try {
-    return PuntoDelContorno(desde.XPos(), desde.YPos(), hacia.XPos(), hacia.YPos(),
-                            RadioSimbolo(std::nullopt));
+std::shared_ptr<Puntos> TrazadoEntre(const Elemento& desde, const Elemento& hasta) try {
+    return TrazadoRecto(desde, hasta);
 } catch (...) {
     LanzaError(TEXTO_LIBRE, "ErrPtoContorno (lectorArchivo)");
-}
-
-// The straight trace from the outline of one element to the outline of the other.
-std::shared_ptr<Puntos> TrazadoRecto(const Elemento& desde, const Elemento& hasta) {
-    auto trazado = std::make_shared<Puntos>();
-    trazado->AddObjetoPunto(std::make_shared<Punto>(PtoContorno(desde, hasta)), true);
-    trazado->AddObjetoPunto(std::make_shared<Punto>(PtoContorno(hasta, desde)), true);
-    return trazado;
 }
 
 }  // namespace
@@ -230,7 +222,7 @@ void lectorArchivo::RehaceTrazados(const std::vector<std::int32_t>& codigos) {
         if (!x) continue;
         auto desde = EmpiezaEnSiMismo(x->Tipo()) ? x : ElementoDe(x->ElemIni());
         auto hasta = x->Tipo() == ctCentralHidroelectrica ? x : ElementoDe(x->ElemFin());
-        if (desde && hasta) x->Trazado(TrazadoRecto(*desde, *hasta));
+        if (desde && hasta) x->Trazado(TrazadoEntre(*desde, *hasta));
     }
 }
 
@@ -238,7 +230,7 @@ void lectorArchivo::RehaceTrazados2(const std::vector<std::int32_t>& codigos) {
     for (const std::int32_t codigo : codigos) {
         const auto x = ElementoDe(codigo);
         if (!x || x->Tipo() != ctCentralHidroelectrica) continue;
-        if (const auto hasta = ElementoDe(x->ElemFin())) x->Trazado2(TrazadoRecto(*x, *hasta));
+        if (const auto hasta = ElementoDe(x->ElemFin())) x->Trazado2(TrazadoEntre(*x, *hasta));
     }
 }
 

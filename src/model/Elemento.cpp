@@ -76,7 +76,7 @@ void Elemento::CopiaPropiedades(const Elemento& Origen) {
 }
 
 void Elemento::Tamanyo(float valor) noexcept {
-    tamanyo_ = valor < TAMANYO_MINIMO ? TAMANYO_MINIMO : valor > TAMANYO_MAXIMO ? TAMANYO_MAXIMO : valor;
+    tamanyo_ = valor > TAMANYO_MAXIMO ? TAMANYO_MAXIMO : valor > TAMANYO_MINIMO ? valor : TAMANYO_MINIMO;
 }
 
 void Elemento::EtiquetaTamanyo(float valor) noexcept {

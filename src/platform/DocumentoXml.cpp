@@ -93,6 +93,7 @@ const char* PorQue(int codigo) noexcept {
         case XML_ERR_UNDECLARED_ENTITY:
         case XML_WAR_UNDECLARED_ENTITY:
             return "se usa una entidad sin declarar";
+        case XML_ERR_NO_MEMORY:
         case XML_ERR_INTERNAL_ERROR:
             return "un texto es demasiado largo o hay demasiados niveles";
         default:
@@ -104,8 +105,8 @@ const char* PorQue(int codigo) noexcept {
 // no reason to refuse a document, save the entity that would vanish from it.
 void AlFallar(void* analisis, xmlErrorPtr error) {
     if (error->level < XML_ERR_ERROR && error->code != XML_WAR_UNDECLARED_ENTITY) return;
-    static_cast<Analisis*>(analisis)->Falla("el XML no está bien formado: en la línea " +
-                                            std::to_string(error->line) + ", " + PorQue(error->code));
+    const std::string donde = error->line > 0 ? "en la línea " + std::to_string(error->line) + ", " : "";
+    static_cast<Analisis*>(analisis)->Falla("el XML no está bien formado: " + donde + PorQue(error->code));
 }
 
 // Installs the handler of failures for this thread while it lives: some of them reach no parser's own one.
@@ -123,6 +124,17 @@ class EscuchaFallos {
     void* contexto_;
     xmlStructuredErrorFunc funcion_;
 };
+
+// "UTF-8" when the file begins with that encoding's byte order mark, which then outweighs the declaration
+// and is left behind; null otherwise.
+const char* CodificacionDeLaMarca(std::FILE* archivo) noexcept {
+    char inicio[3] = {};
+    const bool marca =
+        std::fread(inicio, 1, 3, archivo) == 3 && std::string_view(inicio, 3) == "\xEF\xBB\xBF";
+    if (marca) return "UTF-8";
+    std::rewind(archivo);
+    return nullptr;
+}
 
 }  // namespace
 
@@ -142,8 +154,8 @@ bool DocumentoXml::Carga(const std::string& nombreArchivo) {
     contexto->sax->internalSubset = AlDeclararTipo;
     contexto->sax->startElementNs = AlEmpezarElemento;
     constexpr int OPCIONES = XML_PARSE_NONET | XML_PARSE_COMPACT;
-    documento_.reset(
-        xmlCtxtReadIO(contexto.get(), LeeTrozo, nullptr, archivo.get(), nullptr, nullptr, OPCIONES));
+    documento_.reset(xmlCtxtReadIO(contexto.get(), LeeTrozo, nullptr, archivo.get(), nullptr,
+                                   CodificacionDeLaMarca(archivo.get()), OPCIONES));
     if (std::ferror(archivo.get()) != 0) {
         motivo_ = Fallo(75).Description();
     } else if (!documento_ || !contexto->wellFormed || !analisis.motivo.empty()) {

@@ -1,5 +1,6 @@
 #include "platform/Numeros.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -53,18 +54,22 @@ Tramo BuscaNumero(std::string_view texto) noexcept {
     return tramo;
 }
 
-// True when a number that from_chars could not represent is too small rather than too large.
+// True when a number that from_chars could not represent is too small rather than too large: by the decimal
+// exponent of its first digit other than 0.
 bool EsDiminuto(std::string_view cifras) noexcept {
-    const std::size_t e = cifras.find_first_of("eE");
+    const std::size_t e = std::min(cifras.find_first_of("eE"), cifras.size());
     const std::string_view mantisa = cifras.substr(0, e);
     const std::size_t primera = mantisa.find_first_not_of("0.");
     if (primera == std::string_view::npos) return true;
-    if (e != std::string_view::npos) {
-        // A digit string this long decides by its exponent's sign alone unless it is absurdly balanced.
-        return cifras[e + 1] == '-';
+    const auto punto = static_cast<std::int64_t>(std::min(mantisa.find('.'), mantisa.size()));
+    const auto lugar = punto - static_cast<std::int64_t>(primera);
+    std::int64_t exponente = 0;
+    if (e < cifras.size()) {
+        const std::size_t desde = e + (cifras[e + 1] == '+' ? 2 : 1);
+        const auto leido = std::from_chars(cifras.data() + desde, cifras.data() + cifras.size(), exponente);
+        if (leido.ec != std::errc()) return cifras[desde] == '-';
     }
-    const std::size_t punto = mantisa.find('.');
-    return punto != std::string_view::npos && primera > punto;
+    return exponente + lugar < 0;
 }
 
 template <typename T>
@@ -88,7 +93,13 @@ std::string Texto(T valor) {
     std::array<char, 64> memoria{};
     const auto resultado = std::to_chars(memoria.data(), memoria.data() + memoria.size(), valor,
                                          llano ? std::chars_format::fixed : std::chars_format::scientific);
-    return {memoria.data(), resultado.ptr};
+    std::string texto(memoria.data(), resultado.ptr);
+    // Exponents come with a sign and two digits at least.
+    if (const std::size_t e = texto.find('e'); e != std::string::npos) {
+        if (texto[e + 2] == '0') texto.erase(e + 2, 1);
+        if (texto[e + 1] == '+') texto.erase(e + 1, 1);
+    }
+    return texto;
 }
 
 }  // namespace

@@ -3,12 +3,16 @@
 namespace zel {
 
 char32_t SiguienteCaracter(std::string_view texto, std::size_t& i) noexcept {
-    const auto primero = static_cast<unsigned char>(texto[i++]);
-    unsigned siguientes = primero >= 0xF0 ? 3 : primero >= 0xE0 ? 2 : primero >= 0xC0 ? 1 : 0;
-    char32_t punto = siguientes == 0 ? primero : primero & (0x3FU >> siguientes);
-    for (; siguientes > 0 && i < texto.size(); --siguientes) {
-        punto = (punto << 6U) | (static_cast<unsigned char>(texto[i++]) & 0x3FU);
+    const auto byte = [&](std::size_t donde) { return static_cast<unsigned char>(texto[donde]); };
+    const char32_t primero = byte(i++);
+    const std::size_t siguientes = primero >= 0xF0 ? 3 : primero >= 0xE0 ? 2 : primero >= 0xC0 ? 1 : 0;
+    if (siguientes == 0 || texto.size() - i < siguientes) return primero;
+    char32_t punto = primero & (0x3FU >> siguientes);
+    for (std::size_t j = i; j < i + siguientes; ++j) {
+        if ((byte(j) & 0xC0U) != 0x80U) return primero;
+        punto = (punto << 6U) | (byte(j) & 0x3FU);
     }
+    i += siguientes;
     return punto;
 }
 

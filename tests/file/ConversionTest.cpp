@@ -6,19 +6,10 @@
 #include <string>
 
 #include "model/modErrorHandling.h"
+#include "support/Resultado.h"
 
 namespace zel::pruebas {
 namespace {
-
-// The value as text, or "!" and the number of the failure.
-template <typename Accion>
-std::string Resultado(Accion accion) {
-    try {
-        return ::testing::PrintToString(accion());
-    } catch (const Fallo& fallo) {
-        return "!" + std::to_string(fallo.Number());
-    }
-}
 
 TEST(Conversion, ReadsEachTypeAsLenientlyAsItShouldBeWhateverTheLocale) {
     const std::string anterior = std::setlocale(LC_ALL, nullptr);

@@ -323,6 +323,7 @@ TEST_F(Lector, AddsNothingFromAFileThatIsBrokenOrHostile) {
         Documento({Xml(1, 10), std::string("a\0b", 3)}),
         Documento({Xml(1, 10), Xml(2, 10).Pon("Nombre", "Se\xF1or")}),
         sinDeclaracion + "<!-- Se\xF1or -->",
+        "<?xml version='1.0' encoding='windows-1252'?>" + sinDeclaracion + "\n\x81",
         "<?xml version='1.0' encoding='klingon'?>" + sinDeclaracion,
         "<?xml version='1.0' encoding='UTF-16'?>" + sinDeclaracion,
         conTipo("[]", ""),
@@ -337,6 +338,7 @@ TEST_F(Lector, AddsNothingFromAFileThatIsBrokenOrHostile) {
         CargaArchivo(contenido);
         EXPECT_EQ(elementos_->Count(), 0) << &contenido - FILAS;
         EXPECT_NE(lector_.MotivoSinLeer(), "") << &contenido - FILAS;
+        EXPECT_EQ(lector_.MotivoSinLeer().find('\n'), std::string::npos) << lector_.MotivoSinLeer();
     }
     EXPECT_EQ(Log(), "viejo");
     CargaArchivo("<Esquema/>");

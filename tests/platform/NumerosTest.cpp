@@ -51,6 +51,10 @@ TEST_F(Numeros, RoundHalfToEvenAndFailBeyondTheirType) {
     EXPECT_THROW(NumeroInicial("1e309"), Fallo);
     EXPECT_EQ(RealInicial("-1e-40"), -1e-40F);
     EXPECT_EQ(RealInicial("0." + std::string(400, '0') + "1"), 0);
+    // Too large and too small are told apart by the whole number, not by its exponent alone.
+    EXPECT_THROW(RealInicial("1" + std::string(60, '0') + "e-5"), Fallo);
+    EXPECT_EQ(RealInicial("0." + std::string(60, '0') + "1e5"), 0);
+    EXPECT_EQ(RealInicial("1e-99999999999999999999"), 0);
 }
 
 TEST_F(Numeros, AreWrittenPlainAndShort) {
@@ -62,6 +66,8 @@ TEST_F(Numeros, AreWrittenPlainAndShort) {
         EXPECT_EQ(TextoDeNumero(valor), texto);
     EXPECT_EQ(TextoDeNumero(-999999999999999.0), "-999999999999999");
     EXPECT_EQ(TextoDeNumero(std::int32_t{-1234567}), "-1234567");
+    EXPECT_EQ(TextoDeNumero(9e-6F), "9e-6");
+    EXPECT_EQ(TextoDeNumero(1.5e20), "1.5e20");
     for (const double valor : {1e15, -1e15, 9.9e-6, 1e-300})
         EXPECT_NE(TextoDeNumero(valor).find('e'), std::string::npos) << valor;
 }
