@@ -1,5 +1,7 @@
 #include "model/Elementos.h"
 
+#include "model/Verificador.h"
+#include "platform/Archivos.h"
 #include "platform/Dialogos.h"
 
 namespace zel {
@@ -105,6 +107,32 @@ std::int32_t Elementos::RemoveCodSIG(std::int32_t codigo) try {
     return -1;
 } catch (...) {
     LanzaError(TEXTO_LIBRE, "Error Método RemoveCodSIG (Elementos)");
+}
+
+std::int16_t Elementos::VerificaIntegridad(bool Corrige, std::vector<HallazgoIntegridad>* hallazgos) try {
+    Verificador verificador(*this, Corrige);
+    const std::int16_t resultado = verificador.Verifica();
+    const std::string informe = verificador.Informe();
+    if (hallazgos) *hallazgos = std::move(verificador).Hallazgos();
+    if (resultado == 0) return resultado;
+    dialogos().MsgBox(
+        resultado == INTEGRIDAD_INCORREGIBLE
+            ? "Los datos cargados en memoria no verifican las condiciones de integridad y no pueden ser "
+              "corregidos automáticamente. Operación cancelada. Ver fichero Integridad.log"
+            : "Los datos cargados en memoria no verifican las condiciones de integridad. Operación "
+              "cancelada. Ver fichero Integridad.log");
+    EscribeRegistro(
+        "Integridad.log",
+        "ZELVisorEsquemas: Verificación de integridad de los datos de cargados en memoria fallida. Los "
+        "datos están corruptos.\r\n" +
+            informe);
+    return resultado;
+} catch (...) {
+    LanzaError(TEXTO_LIBRE, "Error en función VerificarIntegridad (Elementos)");
+}
+
+void Elementos::RehaceClaves() {
+    elementos_.RehaceClaves([](const std::shared_ptr<Elemento>& e) { return std::to_string(e->gfCodSIG()); });
 }
 
 std::shared_ptr<Punto> Elementos::PtoContorno(float A, float B, float C, float D,

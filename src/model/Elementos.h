@@ -4,9 +4,11 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "model/Contorno.h"
 #include "model/Elemento.h"
+#include "model/Integridad.h"
 #include "platform/Coleccion.h"
 
 namespace zel {
@@ -59,6 +61,19 @@ class Elementos : public Objeto {
     // Removes the first element with that code, keyed or not, and returns the position it had; -1 when no
     // element has the code.
     std::int32_t RemoveCodSIG(std::int32_t codigo);
+
+    // Checks the collection against what drawing and editing rely on. Verifying, it only reports (and moves
+    // a lone second secondary connection into the first slot); with Corrige it repairs what can be repaired:
+    // default values, screen numbers, codes, straight traces for every linear element.
+    // Returns -1 when something cannot be corrected, else the sum of what remains (INTEGRIDAD_...), 0 for
+    // nothing. Unless 0 it shows a box and writes the report to "Integridad.log" in the current directory.
+    // `hallazgos`, when given, receives everything found.
+    // Raises when a code or number would go beyond 32767 and when the log cannot be written.
+    std::int16_t VerificaIntegridad(bool Corrige = false,
+                                    std::vector<HallazgoIntegridad>* hallazgos = nullptr);
+
+    // Stores every element under the key of its present code.
+    void RehaceClaves();
 
     auto begin() const noexcept { return elementos_.begin(); }
     auto end() const noexcept { return elementos_.end(); }

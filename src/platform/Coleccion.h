@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -44,7 +45,8 @@ class Coleccion {
         valores_.push_back(std::move(valor));
     }
 
-    const T& Item(std::int32_t posicion) const { return valores_[Indice(posicion)]; }
+    // A position as it is; anything else goes by way of a Variante.
+    const T& Item(std::same_as<std::int32_t> auto posicion) const { return valores_[Indice(posicion)]; }
 
     const T& Item(const Variante& posicionOClave) const {
         if (!posicionOClave.EsTexto()) return Item(posicionOClave.Entero32());
@@ -70,6 +72,21 @@ class Coleccion {
         while (claves_[indice] != &lugar->first)
             ++indice;
         Quita(indice);
+    }
+
+    // The same items in the same order, each under the key that `claveDe` gives for it. Fails with 457 when
+    // two of them are the same, and then changes nothing.
+    template <typename ClaveDe>
+    void RehaceClaves(ClaveDe claveDe) {
+        std::unordered_map<std::string, T> porClave;
+        std::vector<const std::string*> claves;
+        for (const T& valor : valores_) {
+            const auto [lugar, nueva] = porClave.try_emplace(EnMinusculas(claveDe(valor)), valor);
+            if (!nueva) throw Fallo(457);
+            claves.push_back(&lugar->first);
+        }
+        porClave_ = std::move(porClave);
+        claves_ = std::move(claves);
     }
 
     std::int32_t Count() const noexcept { return static_cast<std::int32_t>(valores_.size()); }
