@@ -49,6 +49,10 @@ bool I2B(std::int16_t n) {
     return n == 1;
 }
 
+std::int16_t B2I(bool valor) try { return valor ? 1 : 0; } catch (...) {
+    LanzaError(TEXTO_LIBRE, "Error en funcion B2I (lectorArchivo)");
+}
+
 TipoElemento TipoDeCodigo(std::int16_t codigo) noexcept {
     const auto* const lugar = std::find(CODIGOS_DE_TIPO.begin(), CODIGOS_DE_TIPO.end(), codigo);
     return lugar == CODIGOS_DE_TIPO.end() ? ctFlecha : TipoElemento(lugar - CODIGOS_DE_TIPO.begin());

@@ -18,6 +18,8 @@ std::int32_t LeeEntero32(std::string_view texto);
 float LeeReal(std::string_view texto);
 // 0 is false and 1 true; anything else raises.
 bool I2B(std::int16_t n);
+// 1 or 0.
+std::int16_t B2I(bool valor);
 // The kind of a file code, or ctFlecha when no kind has it.
 TipoElemento TipoDeCodigo(std::int16_t codigo) noexcept;
 

@@ -64,4 +64,17 @@ constexpr const char* NombreDe(Hijo hijo) noexcept {
 constexpr std::array<std::int16_t, NUMERO_DE_TIPOS> CODIGOS_DE_TIPO = {10, 12, 30, 110, 50, 51, 52, 53,
                                                                        54, 70, 60, 40,  80, 20, 90, 25};
 
+// The position in NOMBRES_DE_CONTENEDOR, by kind; 0 for unknown kinds.
+constexpr std::size_t ContenedorDe(TipoElemento tipo) noexcept {
+    constexpr std::array<std::uint8_t, NUMERO_DE_TIPOS> CONTENEDORES = {1,  2,  4,  8,  5, 6, 7,  15,
+                                                                        16, 12, 13, 14, 9, 3, 10, 17};
+    return TipoConocido(tipo) ? CONTENEDORES[static_cast<std::size_t>(tipo)] : 0;
+}
+
+// The sections beside the elements.
+constexpr const char* SECCION_IMAGEN = "ImagenFondo";
+constexpr std::array<const char*, 6> HIJOS_DE_IMAGEN = {"Archivo", "X0", "Y0", "LX", "LY", "Oculta"};
+constexpr const char* SECCION_CONFIGURACION = "Configuracion";
+constexpr const char* VER_LINEAS_SECUNDARIAS = "VerLineasSecundarias";
+
 }  // namespace zel

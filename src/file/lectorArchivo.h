@@ -1,9 +1,13 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "file/Hallazgos.h"
@@ -11,9 +15,9 @@
 
 namespace zel {
 
-// Reads a schematic file into an element collection. Tolerant with what one element lacks or repeats: it
-// keeps the initial value, the problem goes to the load log, and a trace that cannot be read is rebuilt as
-// a straight one between the elements that it joins.
+// Reads a schematic file into an element collection, and writes one. Reading is tolerant with what one
+// element lacks or repeats: it keeps the initial value, the problem goes to the load log, and a trace that
+// cannot be read is rebuilt as a straight one between the elements that it joins.
 class lectorArchivo {
   public:
     void NombreArchivo(std::string ruta) { nombreArchivo_ = std::move(ruta); }
@@ -40,6 +44,30 @@ class lectorArchivo {
     bool EsEsquema() const noexcept { return esEsquema_; }
     const std::string& Registro() const noexcept { return registro_; }
 
+    // The texts of the background picture's section, by the names of its children; Archivo comes with the
+    // document's folder in front. Nothing when the file cannot be read or has no such section; where a child
+    // is missing, what stands before it.
+    std::optional<zel::Coleccion<std::string>> LeeImagenFondo();
+    // The same for the settings: the text of "VerLineasSecundarias".
+    std::optional<zel::Coleccion<std::string>> LeeConfiguracion();
+
+    // Writing, in this order: the elements, the picture's section when there is one, the settings, the file.
+    // NombreArchivo is overwritten with an empty schematic by the first step: whoever wants to keep what it
+    // holds until all is done saves through GuardaConSeguridad.
+
+    // Begins a document with every element of the collection. False when an element cannot be written (a
+    // kind without container, a missing trace); those before it are in the document, and
+    // PosicionSinGuardar() tells which it was. A file that cannot be written is the platform's failure.
+    bool GuardaEsquema();
+    std::int32_t PosicionSinGuardar() const noexcept { return posicionSinGuardar_; }
+    // The picture's path, its place and size, and whether it is hidden. A picture of another folder is
+    // copied beside the document. Never raises: what fails ends it.
+    void EscribeImagenFondo(const std::string& archivo, double X0, double Y0, double LX, double LY,
+                            bool oculta) noexcept;
+    void EscribeConfiguracion(bool bVerLineasSecundarias) noexcept;
+    // Writes NombreArchivo and lets go of the document; true. Fails with the platform's failure.
+    bool GuardaDocumento();
+
   private:
     struct Lectura;
 
@@ -56,6 +84,14 @@ class lectorArchivo {
     std::shared_ptr<Elemento> ElementoDe(std::int32_t codigo) const;
     std::string TextoDelRegistro() const;
 
+    std::optional<zel::Coleccion<std::string>> LeeSeccion(const char* seccion,
+                                                          std::span<const char* const> hijos);
+    bool NuevoDocumento();
+    bool GuardaElemento(const Elemento& e);
+    void GuardaLinea(xmlNode* elemento, const Puntos* trazado);
+    xmlNode* AgregaNodo(xmlNode* padre, const char* nombre, std::string_view texto);
+    xmlNode* Seccion(const char* nombre);
+
     std::string nombreArchivo_;
     std::shared_ptr<Elementos> coleccion_;
     std::function<void()> cedeTurno_;
@@ -64,6 +100,10 @@ class lectorArchivo {
     std::string motivo_;
     bool esEsquema_ = false;
     std::string registro_;
+
+    DocumentoXml documento_;  // the one being written
+    std::array<xmlNode*, NOMBRES_DE_CONTENEDOR.size()> contenedores_{};
+    std::int32_t posicionSinGuardar_ = 0;
 };
 
 }  // namespace zel

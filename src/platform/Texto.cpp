@@ -32,6 +32,27 @@ std::string EnMinusculas(std::string_view texto) {
     return minusculas;
 }
 
+void AgregaCaracter(std::string& texto, char32_t caracter) {
+    const auto resto = [&](unsigned bits) {
+        texto.push_back(static_cast<char>(0x80U | ((caracter >> bits) & 0x3FU)));
+    };
+    if (caracter < 0x80) {
+        texto.push_back(static_cast<char>(caracter));
+    } else if (caracter < 0x800) {
+        texto.push_back(static_cast<char>(0xC0U | (caracter >> 6U)));
+        resto(0);
+    } else if (caracter < 0x10000) {
+        texto.push_back(static_cast<char>(0xE0U | (caracter >> 12U)));
+        resto(6);
+        resto(0);
+    } else {
+        texto.push_back(static_cast<char>(0xF0U | (caracter >> 18U)));
+        resto(12);
+        resto(6);
+        resto(0);
+    }
+}
+
 std::string Latin1(std::string_view texto) {
     std::string latin1;
     latin1.reserve(texto.size());

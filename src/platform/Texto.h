@@ -14,6 +14,9 @@ char32_t SiguienteCaracter(std::string_view texto, std::size_t& i) noexcept;
 // and keys are compared.
 std::string EnMinusculas(std::string_view texto);
 
+// The character in UTF-8, at the end of the text.
+void AgregaCaracter(std::string& texto, char32_t caracter);
+
 // In ISO-8859-1; a character outside it becomes "?".
 std::string Latin1(std::string_view texto);
 

@@ -10,7 +10,6 @@
 namespace zel::pruebas {
 
 constexpr const char* MAXIMO = "Se ha alcanzado el máximo zoom";
-constexpr const char* MINIMO = "Se ha alcanzado el mínimo zoom";
 
 static std::string Texto(const Marco& m) {
     return Cifra(m.Xmin) + ".." + Cifra(m.Xmax) + " x " + Cifra(m.Ymin) + ".." + Cifra(m.Ymax);
@@ -60,11 +59,11 @@ TEST_F(Vistas, TheFirstLayoutShowsTheWorldFromZeroAndLaterOnesKeepTheCornerAndTh
     EXPECT_EQ(vista.RelacionAspecto(), 2);
     EXPECT_EQ(TamanyoUnidad(), 4);
     PonDosNudos();
-    vista.Dispone(400, 50);
-    EXPECT_EQ(Visible(), "4..828 x 70..173");
+    vista.Dispone(400, 80);
+    EXPECT_EQ(Visible(), "4..828 x 8.2..173");
     EXPECT_EQ(vista.EscalaDibujo(), 3200);
-    EXPECT_EQ(vista.RelacionAspecto(), 8);
-    EXPECT_FLOAT_EQ(vista.Zoom(), 824.0F * 103 / (412 * 206));
+    EXPECT_EQ(vista.RelacionAspecto(), 5);
+    EXPECT_FLOAT_EQ(vista.Zoom(), 1.6F);
     EXPECT_FALSE(vista.bVistaActualizada());
     EXPECT_TRUE(refresco.bRefrescoPendiente());
     vista.Dispone(0, 50);  // hidden
@@ -98,7 +97,8 @@ TEST_F(Vistas, TheRegionsHoldSymbolsTracesAndTheirMarginAndTheActiveOneHasThePan
     const Elemento sinTraza = SinTraza(ctConduccion1, {9000, 9000});
     const Elemento oeste = Simbolo(ctNudo, {-3996, 50});
     const Elemento sur = Simbolo(ctNudo, {0, -4990}), sureste = Simbolo(ctNudo, {1000, -4990});
-    const Elemento noreste = Simbolo(ctNudo, {4999998, 2499998}), fuera = Simbolo(ctNudo, {-9000, 50});
+    const Elemento este = Simbolo(ctNudo, {4999990, 50}), norte = Simbolo(ctNudo, {50, 2499998});
+    const Elemento fuera = Simbolo(ctNudo, {-9000, 50});
     const std::tuple<std::vector<Elemento>, int, std::string, std::string> filas[] = {
         {{nudo, acuifero}, 1, "94..506 x 44..56", "94..506 x -53..153"},
         {{nudo, toma}, 1, "94..702 x 38..56", "94..702 x -105..199"},
@@ -108,7 +108,8 @@ TEST_F(Vistas, TheRegionsHoldSymbolsTracesAndTheirMarginAndTheActiveOneHasThePan
         {{sinTraza, nudo, sinTraza}, 1, "94..106 x 44..56", "88..112 x 44..56"},
         {{oeste}, -2, "-3999..-3990 x 44..56", "-3999..-3984 x 44..56"},
         {{sur, sureste}, -2, "-6..1006 x -4996..-4984", "-6..1006 x -4999..-4737"},
-        {{noreste}, -2, "4999992..4999999 x 2499992..2499999", "4999986..4999999 x 2499992..2499999"},
+        {{este}, -2, "4999984..4999996 x 44..56", "4999978..4999999 x 44..56"},
+        {{norte}, -2, "44..56 x 2499992..2499999", "38..62 x 2499992..2499999"},
         {{fuera}, -2, "-3999..-3998 x 44..56", "-3999..-3998 x 44..56"},
         {{}, -1, "0..200 x 0..100", "0..200 x 0..100"},
         {{sinTraza}, -1, "0..200 x 0..100", "0..200 x 0..100"}};
@@ -191,7 +192,7 @@ TEST_F(Vistas, TheFarthestViewIsNotPassed) {
     const double mundo = 5004000.0 * 2505000.0 / vista.AreaActiva();
     EXPECT_TRUE(Zoom(static_cast<float>(1.449 * mundo)));
     const std::string lejos = Visible();
-    guion.Espera(MINIMO);
+    guion.Espera("Se ha alcanzado el mínimo zoom");
     EXPECT_FALSE(Zoom(static_cast<float>(1.451 * mundo)));
     EXPECT_EQ(Visible(), lejos);
 }
