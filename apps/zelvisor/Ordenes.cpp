@@ -4,6 +4,7 @@
 #include <array>
 #include <iostream>
 #include <sstream>
+#include <vector>
 
 #include "Carga.h"
 #include "control/Exportacion.h"
@@ -15,6 +16,7 @@ namespace zel {
 namespace {
 
 constexpr int MAL_USO = 1;
+constexpr int CON_HALLAZGOS = 1;
 constexpr int ILEGIBLE = 2;
 
 // The schematic, or nothing after having said why on the standard error.
@@ -35,7 +37,59 @@ void EscribeProblemas(const std::string& problemas) {
     }
 }
 
+// Saves to another file, or the same; false after having said why it could not.
+bool GuardaODilo(const EsquemaLeido& leido, const QString& salida) {
+    try {
+        GuardaConSeguridad(salida.toStdString(), leido.elementos, leido.imagen, leido.bMostrarLineasOcultas);
+        return true;
+    } catch (const Fallo& fallo) {
+        std::cerr << "zelvisor: no se puede guardar \"" << salida.toStdString()
+                  << "\": " << fallo.Description()
+                  << ".\nEl archivo que hubiera con ese nombre sigue como estaba.\n";
+        return false;
+    }
+}
+
+void EscribeHallazgo(const HallazgoIntegridad& hallazgo) {
+    std::cout << "  posición " << hallazgo.Posicion << ", código " << hallazgo.Codigo << ", \""
+              << hallazgo.Nombre << "\": " << hallazgo.Problema;
+    if (!hallazgo.Correccion.empty()) std::cout << " -> " << hallazgo.Correccion;
+    std::cout << '\n';
+}
+
 }  // namespace
+
+int Verifica(const QString& entrada, const QString& salida) {
+    const EsquemaLeido leido = LeeODilo(entrada);
+    if (!leido.elementos) return ILEGIBLE;
+    const bool corrige = !salida.isEmpty();
+    std::vector<HallazgoIntegridad> hallazgos;
+    const std::int16_t resultado = leido.elementos->VerificaIntegridad(corrige, &hallazgos);
+    if (hallazgos.empty()) {
+        std::cout << "El esquema es íntegro: " << leido.elementos->Count() << " elementos.\n";
+    } else {
+        std::cout << "Hallazgos: " << hallazgos.size() << '\n';
+        for (const auto& hallazgo : hallazgos)
+            EscribeHallazgo(hallazgo);
+    }
+    if (corrige) {
+        if (!GuardaODilo(leido, salida)) return MAL_USO;
+        std::cout << (resultado == 0 ? "Todo ha quedado corregido en \""
+                                     : "Lo que se podía corregir lo está en \"")
+                  << salida.toStdString() << "\".\n";
+    }
+    return hallazgos.empty() ? 0 : CON_HALLAZGOS;
+}
+
+int Convierte(const QString& entrada, const QString& salida) {
+    const EsquemaLeido leido = LeeODilo(entrada);
+    if (!leido.elementos) return ILEGIBLE;
+    if (!leido.problemas.empty()) {
+        std::cout << "Al leer faltaban datos o se repetían:\n";
+        EscribeProblemas(leido.problemas);
+    }
+    return GuardaODilo(leido, salida) ? 0 : MAL_USO;
+}
 
 int Exporta(const QString& entrada, const QString& salida, const QString& ancho) {
     bool esNumero = true;
@@ -53,7 +107,7 @@ int Exporta(const QString& entrada, const QString& salida, const QString& ancho)
     const EsquemaLeido leido = LeeODilo(entrada);
     if (!leido.elementos) return ILEGIBLE;
     QStringList fallos;
-    const QImage imagen = ImagenDeEsquema(*leido.elementos, true, pixeles, fallos);
+    const QImage imagen = ImagenDeEsquema(*leido.elementos, leido.bMostrarLineasOcultas, pixeles, fallos);
     QImageWriter escritor(salida, "png");
     if (!escritor.write(imagen)) {
         std::cerr << "zelvisor: no se puede escribir \"" << salida.toStdString()

@@ -22,7 +22,7 @@ bool EsUnaDe(const char* argumento, std::initializer_list<const char*> palabras)
                        [&](const char* p) { return std::strcmp(argumento, p) == 0; });
 }
 bool EsOrden(int argc, char** argv) {
-    return argc > 1 && EsUnaDe(argv[1], {"exportar", "info"});
+    return argc > 1 && EsUnaDe(argv[1], {"exportar", "info", "verificar", "convertir"});
 }
 bool PideAyuda(int argc, char** argv) {
     return std::any_of(argv + 1, argv + argc, [](const char* a) {
@@ -54,15 +54,27 @@ QStringList ConCarpetaEscribible(QStringList archivos) {
     return archivos;
 }
 
-int Ordena(const QStringList& argumentos, const QCommandLineParser& lector) {
-    const QString orden = argumentos.value(0);
-    if (orden == QStringLiteral("exportar") && argumentos.size() == 3) {
-        return zel::Exporta(argumentos[1], argumentos[2], lector.value(QStringLiteral("ancho")));
-    }
-    if (orden == QStringLiteral("info") && argumentos.size() == 2) return zel::Informa(argumentos[1]);
+// An order with its files, and the values of the options; empty for those not given.
+struct Peticion {
+    QString orden;
+    QStringList archivos;
+    QString ancho;
+    QString corregir;
+};
+
+int Ordena(const Peticion& p) {
+    const auto es = [&](const char* orden, qsizetype cuantos) {
+        return p.orden == QLatin1String(orden) && p.archivos.size() == cuantos;
+    };
+    if (es("exportar", 2)) return zel::Exporta(p.archivos[0], p.archivos[1], p.ancho);
+    if (es("info", 1)) return zel::Informa(p.archivos[0]);
+    if (es("verificar", 1)) return zel::Verifica(p.archivos[0], p.corregir);
+    if (es("convertir", 2)) return zel::Convierte(p.archivos[0], p.archivos[1]);
     std::cerr << "zelvisor: faltan o sobran argumentos. Uso:\n"
                  "  zelvisor exportar ENTRADA SALIDA.png [--ancho PIXELS]\n"
-                 "  zelvisor info ENTRADA\n";
+                 "  zelvisor info ENTRADA\n"
+                 "  zelvisor verificar ENTRADA [--corregir SALIDA]\n"
+                 "  zelvisor convertir ENTRADA SALIDA.xml\n";
     return 1;
 }
 
@@ -96,18 +108,25 @@ int main(int argc, char** argv) {
         "Visor de esquemas de sistemas de recursos hídricos.\n\n"
         "  zelvisor [ESQUEMA]                                     abre la ventana\n"
         "  zelvisor exportar ENTRADA SALIDA.png [--ancho PIXELS]  dibuja el esquema en una imagen\n"
-        "  zelvisor info ENTRADA                                  cuenta qué hay en el archivo"));
+        "  zelvisor info ENTRADA                                  cuenta qué hay en el archivo\n"
+        "  zelvisor verificar ENTRADA [--corregir SALIDA]         busca faltas de integridad\n"
+        "  zelvisor convertir ENTRADA SALIDA.xml                  lee el esquema y lo guarda"));
     lector.addHelpOption();
     lector.addOption({QStringLiteral("ancho"),
                       QStringLiteral("Ancho de la imagen en píxeles (1600 si no se da)."),
                       QStringLiteral("PIXELS")});
+    lector.addOption({QStringLiteral("corregir"), QStringLiteral("Guarda en SALIDA el esquema corregido."),
+                      QStringLiteral("SALIDA")});
     lector.addPositionalArgument(QStringLiteral("ESQUEMA"), QStringLiteral("Archivo que se abre."),
                                  QStringLiteral("[ESQUEMA]"));
     lector.process(programa);
     const QStringList argumentos = lector.positionalArguments();
     try {
         if (EsOrden(argc, argv)) {
-            return Ordena(argumentos.mid(0, 1) + ConCarpetaEscribible(argumentos.mid(1)), lector);
+            QStringList archivos = argumentos.mid(1);
+            archivos = ConCarpetaEscribible(archivos << lector.value(QStringLiteral("corregir")));
+            const QString corregir = archivos.takeLast();
+            return Ordena({argumentos.value(0), archivos, lector.value(QStringLiteral("ancho")), corregir});
         }
         zel::instalaDialogos(std::make_shared<zel::DialogosQt>());
         zel::VentanaPrincipal ventana;

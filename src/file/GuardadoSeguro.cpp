@@ -4,6 +4,7 @@
 
 #include "file/Formato.h"
 #include "file/lectorArchivo.h"
+#include "platform/Archivos.h"
 #include "platform/Numeros.h"
 #include "platform/ReemplazoDeArchivo.h"
 
@@ -15,6 +16,35 @@ double Numero(std::string texto) {
     std::replace(texto.begin(), texto.end(), ',', '.');
     return NumeroInicial(texto);
 }
+
+// The copy of a picture from another folder that is to stand beside the schematic: made before the schematic
+// is saved, put in place after. A picture that cannot be copied stays where it is.
+class CopiaDeImagen {
+  public:
+    CopiaDeImagen(const std::string& imagen, const std::string& carpeta) : ruta_(imagen) {
+        const RutaPartida partes = ParteRuta(imagen);
+        if (partes.carpeta.empty() || partes.carpeta == carpeta) return;
+        try {
+            copia_.emplace(carpeta + partes.nombre, imagen);
+            ruta_ = carpeta + partes.nombre;
+        } catch (const Fallo&) {
+            copia_.reset();
+        }
+    }
+    // The path to write in the schematic.
+    const std::string& Ruta() const noexcept { return ruta_; }
+    void Confirma() noexcept {
+        try {
+            if (copia_) copia_->Confirma();
+        } catch (const Fallo&) {
+            return;  // the schematic is in place already
+        }
+    }
+
+  private:
+    std::string ruta_;
+    std::optional<CopiaDeArchivo> copia_;
+};
 
 }  // namespace
 
@@ -36,13 +66,16 @@ void GuardaConSeguridad(const std::string& ruta, const std::shared_ptr<Elementos
         throw Fallo(5, "El elemento en la posición " + std::to_string(escritor.PosicionSinGuardar()) +
                            " no se puede guardar: su tipo no se conoce o le falta un trazado");
     }
+    std::optional<CopiaDeImagen> copia;
     if (imagen) {
-        escritor.EscribeImagenFondo(imagen->Archivo, imagen->X0, imagen->Y0, imagen->LX, imagen->LY,
+        copia.emplace(imagen->Archivo, ParteRuta(reemplazo.Temporal()).carpeta);
+        escritor.EscribeImagenFondo(copia->Ruta(), imagen->X0, imagen->Y0, imagen->LX, imagen->LY,
                                     imagen->Oculta);
     }
     escritor.EscribeConfiguracion(bMostrarLineasOcultas);
     escritor.GuardaDocumento();
     reemplazo.Confirma();
+    if (copia) copia->Confirma();
 }
 
 }  // namespace zel

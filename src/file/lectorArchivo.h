@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -12,6 +11,7 @@
 
 #include "file/Hallazgos.h"
 #include "model/Elementos.h"
+#include "platform/EscritorXml.h"
 
 namespace zel {
 
@@ -87,10 +87,11 @@ class lectorArchivo {
     std::optional<zel::Coleccion<std::string>> LeeSeccion(const char* seccion,
                                                           std::span<const char* const> hijos);
     bool NuevoDocumento();
-    bool GuardaElemento(const Elemento& e);
-    void GuardaLinea(xmlNode* elemento, const Puntos* trazado);
-    xmlNode* AgregaNodo(xmlNode* padre, const char* nombre, std::string_view texto);
-    xmlNode* Seccion(const char* nombre);
+    bool GuardaElemento(const Elemento& e) noexcept;
+    void GuardaLinea(const Puntos& trazado);
+    void AgregaNodo(const char* nombre, std::string_view texto);
+    template <typename Escribe>
+    void EscribeSeccion(const char* nombre, Escribe escribe) noexcept;
 
     std::string nombreArchivo_;
     std::shared_ptr<Elementos> coleccion_;
@@ -101,8 +102,7 @@ class lectorArchivo {
     bool esEsquema_ = false;
     std::string registro_;
 
-    DocumentoXml documento_;  // the one being written
-    std::array<xmlNode*, NOMBRES_DE_CONTENEDOR.size()> contenedores_{};
+    std::optional<EscritorXml> documento_;  // the one being written
     std::int32_t posicionSinGuardar_ = 0;
 };
 

@@ -1,5 +1,8 @@
 // The writing half of lectorArchivo, and the sections beside the elements.
 
+#include <array>
+#include <vector>
+
 #include "file/Conversion.h"
 #include "file/lectorArchivo.h"
 #include "platform/Archivos.h"
@@ -9,9 +12,6 @@
 namespace zel {
 
 namespace {
-
-constexpr const char* ESQUELETO =
-    "<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\r\n<Esquema><Elementos></Elementos></Esquema>";
 
 std::string Texto(std::int32_t valor) {
     return TextoDeNumero(valor);
@@ -72,6 +72,12 @@ xmlNode* BuscaPrimero(const DocumentoXml& documento, xmlNode* cima, const char* 
     return nodo;
 }
 
+bool SePuedeGuardar(const Elemento& e) noexcept {
+    if (!TipoConocido(e.Tipo())) return false;
+    if (EsLineal(e.Tipo()) && !e.Trazado()) return false;
+    return e.Tipo() != ctCentralHidroelectrica || e.Trazado2();
+}
+
 // True when a separator stands at the second character or later.
 bool TieneCarpeta(const std::string& ruta) {
     return ruta.find_first_of("\\/", 1) != std::string::npos;
@@ -99,10 +105,11 @@ std::optional<Coleccion<std::string>> lectorArchivo::LeeImagenFondo() {
     auto textos = LeeSeccion(SECCION_IMAGEN, HIJOS_DE_IMAGEN);
     if (!textos || textos->Count() == 0) return textos;
     // The file name is stored without its folder, which is the document's.
+    const std::string carpeta = ParteRuta(SinEnlaces(nombreArchivo_)).carpeta;
     zel::Coleccion<std::string> conCarpeta;
     std::size_t i = 0;
     for (const std::string& texto : *textos) {
-        conCarpeta.Add(i == 0 ? ParteRuta(nombreArchivo_).carpeta + texto : texto, HIJOS_DE_IMAGEN[i]);
+        conCarpeta.Add(i == 0 ? carpeta + texto : texto, HIJOS_DE_IMAGEN[i]);
         ++i;
     }
     return conCarpeta;
@@ -112,74 +119,105 @@ std::optional<Coleccion<std::string>> lectorArchivo::LeeConfiguracion() {
     return LeeSeccion(SECCION_CONFIGURACION, std::span(&VER_LINEAS_SECUNDARIAS, 1));
 }
 
+// An empty schematic goes to the file before anything else: whether it can be written shows at once.
 bool lectorArchivo::NuevoDocumento() {
-    if (!documento_.Analiza(ESQUELETO)) return false;
-    xmlNode* const elementos = BuscaPrimero(documento_, documento_.Raiz(), "Elementos");
-    contenedores_.fill(nullptr);
+    EscritorXml esqueleto;
+    esqueleto.Abre("Esquema");
+    esqueleto.Abre("Elementos");
     for (std::size_t i = 1; i < NOMBRES_DE_CONTENEDOR.size(); ++i) {
-        contenedores_[i] = documento_.Agrega(elementos, NOMBRES_DE_CONTENEDOR[i]);
+        esqueleto.Abre(NOMBRES_DE_CONTENEDOR[i]);
+        esqueleto.Cierra();
     }
-    documento_.Guarda(nombreArchivo_);
+    esqueleto.Guarda(nombreArchivo_);
     return true;
 }
 
 bool lectorArchivo::GuardaEsquema() {
     posicionSinGuardar_ = 0;
+    documento_.reset();
+    if (!coleccion_) throw Fallo(91);
     if (!NuevoDocumento()) return false;
+    // The elements of each container, in the order of the collection, up to the first that cannot be saved.
+    std::array<std::vector<const Elemento*>, NOMBRES_DE_CONTENEDOR.size()> contenedores;
     std::int32_t posicion = 0;
     for (const auto& e : *coleccion_) {
         ++posicion;
-        if (GuardaElemento(*e)) continue;
-        posicionSinGuardar_ = posicion;
-        return false;
+        if (!SePuedeGuardar(*e)) {
+            posicionSinGuardar_ = posicion;
+            break;
+        }
+        contenedores[ContenedorDe(e->Tipo())].push_back(e.get());
     }
-    return true;
+    documento_.emplace();
+    documento_->Abre("Esquema");
+    documento_->Abre("Elementos");
+    for (std::size_t i = 1; i < NOMBRES_DE_CONTENEDOR.size(); ++i) {
+        documento_->Abre(NOMBRES_DE_CONTENEDOR[i]);
+        for (const Elemento* e : contenedores[i]) {
+            if (!GuardaElemento(*e)) return false;
+        }
+        documento_->Cierra();
+    }
+    documento_->Cierra();
+    return posicionSinGuardar_ == 0;
 }
 
-bool lectorArchivo::GuardaElemento(const Elemento& e) {
+bool lectorArchivo::GuardaElemento(const Elemento& e) noexcept {
     try {
-        xmlNode* const contenedor = contenedores_[ContenedorDe(e.Tipo())];
-        if (!contenedor) throw Fallo(91);
-        xmlNode* const elemento = documento_.Agrega(contenedor, NombreDe(Hijo::Elemento));
+        documento_->Abre(NombreDe(Hijo::Elemento));
         for (const auto& hijo : HIJOS_COMUNES)
-            AgregaNodo(elemento, NombreDe(hijo.hijo), hijo.texto(e));
-        documento_.AgregaSalto(contenedor);
-        if (!EsLineal(e.Tipo())) return true;
-        for (const auto& hijo : HIJOS_LINEALES)
-            AgregaNodo(elemento, NombreDe(hijo.hijo), hijo.texto(e));
-        GuardaLinea(elemento, e.Trazado().get());
-        if (e.Tipo() == ctCentralHidroelectrica) GuardaLinea(elemento, e.Trazado2().get());
+            AgregaNodo(NombreDe(hijo.hijo), hijo.texto(e));
+        if (EsLineal(e.Tipo())) {
+            for (const auto& hijo : HIJOS_LINEALES)
+                AgregaNodo(NombreDe(hijo.hijo), hijo.texto(e));
+            GuardaLinea(*e.Trazado());
+            if (e.Tipo() == ctCentralHidroelectrica) GuardaLinea(*e.Trazado2());
+        }
+        documento_->Cierra();
+        documento_->Salto();
         return true;
     } catch (...) {
         return false;
     }
 }
 
-void lectorArchivo::GuardaLinea(xmlNode* elemento, const Puntos* trazado) {
-    if (!trazado) throw Fallo(91);
-    xmlNode* const linea = documento_.Agrega(elemento, NombreDe(Hijo::Linea));
-    for (const auto& vertice : *trazado) {
-        xmlNode* const punto = documento_.Agrega(linea, NombreDe(Hijo::Punto));
-        AgregaNodo(punto, NombreDe(Hijo::X), Texto(vertice->XPos()));
-        AgregaNodo(punto, NombreDe(Hijo::Y), Texto(vertice->YPos()));
+void lectorArchivo::GuardaLinea(const Puntos& trazado) {
+    documento_->Abre(NombreDe(Hijo::Linea));
+    for (const auto& vertice : trazado) {
+        documento_->Abre(NombreDe(Hijo::Punto));
+        AgregaNodo(NombreDe(Hijo::X), Texto(vertice->XPos()));
+        AgregaNodo(NombreDe(Hijo::Y), Texto(vertice->YPos()));
+        documento_->Cierra();
     }
+    documento_->Cierra();
 }
 
-xmlNode* lectorArchivo::AgregaNodo(xmlNode* padre, const char* nombre, std::string_view texto) {
-    return documento_.Agrega(padre, nombre, texto);
+void lectorArchivo::AgregaNodo(const char* nombre, std::string_view texto) {
+    documento_->Hijo(nombre, texto);
 }
 
-// The section of the document being written, a new one when it has none.
-xmlNode* lectorArchivo::Seccion(const char* nombre) {
-    if (!documento_) throw Fallo(91);
-    xmlNode* const seccion = BuscaPrimero(documento_, documento_.Raiz(), nombre);
-    return seccion ? seccion : documento_.Agrega(documento_.Raiz(), nombre);
+// A section with what `escribe` puts into it, as far as that gets: a picture or a setting is not worth the
+// schematic, which is saved all the same.
+template <typename Escribe>
+void lectorArchivo::EscribeSeccion(const char* nombre, Escribe escribe) noexcept {
+    if (!documento_) return;
+    try {
+        documento_->Abre(nombre);
+        try {
+            escribe();
+        } catch (...) {
+            documento_->Cierra();
+            return;
+        }
+        documento_->Cierra();
+    } catch (...) {
+        return;
+    }
 }
 
 void lectorArchivo::EscribeImagenFondo(const std::string& archivo, double X0, double Y0, double LX, double LY,
                                        bool oculta) noexcept {
-    try {
-        xmlNode* const seccion = Seccion(SECCION_IMAGEN);
+    EscribeSeccion(SECCION_IMAGEN, [&] {
         std::string guardado = archivo;
         if (TieneCarpeta(archivo)) {
             const RutaPartida partes = ParteRuta(archivo);
@@ -190,24 +228,19 @@ void lectorArchivo::EscribeImagenFondo(const std::string& archivo, double X0, do
         const std::string textos[] = {guardado,          TextoDeNumero(X0), TextoDeNumero(Y0),
                                       TextoDeNumero(LX), TextoDeNumero(LY), TextoDeBooleano(oculta)};
         for (std::size_t i = 0; i < HIJOS_DE_IMAGEN.size(); ++i)
-            AgregaNodo(seccion, HIJOS_DE_IMAGEN[i], textos[i]);
-    } catch (...) {
-        return;  // the schematic is saved all the same, without its picture
-    }
+            AgregaNodo(HIJOS_DE_IMAGEN[i], textos[i]);
+    });
 }
 
 void lectorArchivo::EscribeConfiguracion(bool bVerLineasSecundarias) noexcept {
-    try {
-        AgregaNodo(Seccion(SECCION_CONFIGURACION), VER_LINEAS_SECUNDARIAS,
-                   TextoDeBooleano(bVerLineasSecundarias));
-    } catch (...) {
-        return;  // a setting is not worth the schematic
-    }
+    EscribeSeccion(SECCION_CONFIGURACION,
+                   [&] { AgregaNodo(VER_LINEAS_SECUNDARIAS, TextoDeBooleano(bVerLineasSecundarias)); });
 }
 
 bool lectorArchivo::GuardaDocumento() {
-    documento_.Guarda(nombreArchivo_);
-    documento_.Vacia();
+    if (!documento_) throw Fallo(91);
+    documento_->Guarda(nombreArchivo_);
+    documento_.reset();
     return true;
 }
 

@@ -10,7 +10,7 @@ class Elementos;
 
 // One thing found by the integrity check.
 struct HallazgoIntegridad {
-    std::int32_t Posicion = 0;  // of the element in the collection; 0 when it is about several elements
+    std::int32_t Posicion = 0;  // of the element in the collection; of two equal ones, the later
     std::int32_t Codigo = 0;
     std::string Nombre;
     std::string Problema;    // what is wrong

@@ -73,6 +73,7 @@ class Grupos {
     Grupos(const Elementos& elementos, ValorDe valorDe)
         : siguiente_(static_cast<std::size_t>(elementos.Count()), -1) {
         std::unordered_map<Clave, std::int32_t> ultima;
+        ultima.reserve(siguiente_.size());
         std::int32_t i = 0;
         for (const auto& e : elementos) {
             if (const std::optional<Clave> valor = valorDe(*e)) {
@@ -101,34 +102,42 @@ std::optional<std::int64_t> NumeroDentroDelTipo(const Elemento& e) noexcept {
     return (std::int64_t{e.Tipo()} << 32) | static_cast<std::uint16_t>(e.KeyPant());
 }
 
-// Gives a new number, above all others, to every element that has none (0) and to every one that repeats
-// the number of an earlier one. The numbers run in 16 bits.
-template <typename Lee, typename Escribe>
-void Renumera(const Elementos& elementos, Lee lee, Escribe escribe) {
+struct NumeroNuevo {
+    std::int32_t posicion;
+    Elemento* elemento;
+    std::int16_t numero;
+};
+
+// A new number, above all others, for every element that has none (0) and for every one that repeats the
+// number of an earlier one. The numbers run in 16 bits; when they do not suffice it fails with 6.
+template <typename Lee>
+std::vector<NumeroNuevo> NumerosNuevos(const Elementos& elementos, Lee lee) {
     std::int32_t mayor = 0;
-    for (const auto& e : elementos)
+    std::vector<Elemento*> todos;
+    for (const auto& e : elementos) {
         mayor = std::max(mayor, std::int32_t{lee(*e)});
-    std::int16_t m = Estrecha16(mayor);
-    const auto siguiente = [&m] { return m = Estrecha16(std::int32_t{m} + 1); };
+        todos.push_back(e.get());
+    }
     const Grupos<std::int32_t> grupos(elementos, [&](const Elemento& e) {
         return lee(e) == 0 ? std::nullopt : std::optional<std::int32_t>(lee(e));
     });
-    std::vector<Elemento*> todos;
-    for (const auto& e : elementos)
-        todos.push_back(e.get());
+    std::vector<NumeroNuevo> nuevos;
     std::vector<bool> renumerado(todos.size(), false);
-    for (std::size_t i = 0; i < todos.size(); ++i) {
-        if (renumerado[i]) continue;
-        if (lee(*todos[i]) == 0) {
-            escribe(*todos[i], siguiente());
-            continue;
-        }
-        for (std::int32_t j = grupos.Siguiente(static_cast<std::int32_t>(i)); j >= 0;
-             j = grupos.Siguiente(j)) {
-            escribe(*todos[static_cast<std::size_t>(j)], siguiente());
-            renumerado[static_cast<std::size_t>(j)] = true;
-        }
+    std::int16_t m = Estrecha16(mayor);
+    const auto renumera = [&](std::int32_t i) {
+        m = Estrecha16(std::int32_t{m} + 1);
+        nuevos.push_back({i + 1, todos[static_cast<std::size_t>(i)], m});
+        renumerado[static_cast<std::size_t>(i)] = true;
+    };
+    for (std::int32_t i = 0; i < elementos.Count(); ++i) {
+        if (renumerado[static_cast<std::size_t>(i)]) continue;
+        if (lee(*todos[static_cast<std::size_t>(i)]) == 0)
+            renumera(i);
+        else
+            for (std::int32_t j = grupos.Siguiente(i); j >= 0; j = grupos.Siguiente(j))
+                renumera(j);
     }
+    return nuevos;
 }
 
 // A text of the report by itself, without what joins it to the element's position.
@@ -170,6 +179,7 @@ void Verificador::PorElementos(Accion accion) {
 
 void Verificador::IndexaCodigos() {
     porCodigo_.clear();
+    porCodigo_.reserve(static_cast<std::size_t>(elementos_.Count()));
     for (const auto& e : elementos_)
         porCodigo_.try_emplace(e->gfCodSIG(), e.get());
 }
@@ -179,7 +189,7 @@ Elemento* Verificador::DeCodigo(std::int32_t codigo) const {
     return lugar == porCodigo_.end() ? nullptr : lugar->second;
 }
 
-void Verificador::Encontrado(const Sitio& s, const std::string& problema, const char* correccion) {
+void Verificador::Encontrado(const Sitio& s, const std::string& problema, const std::string& correccion) {
     hallazgos_.push_back({s.posicion, s.e.gfCodSIG(), s.e.Nombre(), SinEnlace(problema), correccion});
 }
 
@@ -194,47 +204,51 @@ void Verificador::Incorregible(const Sitio& s, const std::string& texto) {
 }
 
 template <typename Correccion>
-void Verificador::Corregible(const Sitio& s, bool mal, const std::string& texto, const char* correccion,
+void Verificador::Corregible(const Sitio& s, const std::string& texto, const char* correccion,
                              Correccion corrige) {
-    if (!mal) return;
     if (corrige_) {
-        corrige(s.e);
+        corrige();
         Encontrado(s, texto, correccion);
     } else {
         valores_ = true;
-        Informa(s, texto);
+        Informa(s, texto + ". ");
     }
 }
 
-void Verificador::Pendiente(const Sitio& s, bool& marca, const std::string& texto, const char* correccion) {
+void Verificador::Pendiente(const Sitio& s, bool& marca, const std::string& texto) {
     marca = true;
     if (corrige_)
-        Encontrado(s, texto, correccion);
+        Encontrado(s, texto, "");
     else
         Informa(s, texto);
 }
 
 void Verificador::VerificaValores() {
-    const auto colorMal = [](std::int32_t color) { return color < 0 && color != -1; };
+    const auto mal = [](std::int32_t valor) { return valor < 0 && valor != -1; };
     PorElementos([&](const Sitio& s) {
         Elemento& e = s.e;
-        Corregible(s, colorMal(e.ColorIcono()), ": ColorIcono incorrecto: " + Texto(e.ColorIcono()) + ". ",
-                   "ColorIcono puesto a -1", [](Elemento& mal) { mal.ColorIcono(-1); });
-        Corregible(s, colorMal(e.ColorLinea()), ": ColorLínea incorrecto: " + Texto(e.ColorLinea()) + ". ",
-                   "ColorLinea puesto a -1", [](Elemento& mal) { mal.ColorLinea(-1); });
-        if (colorMal(e.ConecSec1()))
-            Incorregible(s, ": ConecSec1 incorrecta: " + Texto(e.ConecSec1()) + ". ");
-        if (colorMal(e.ConecSec2()))
-            Incorregible(s, ": ConecSec2 incorrecta: " + Texto(e.ConecSec2()) + ". ");
+        if (mal(e.ColorIcono())) {
+            Corregible(s, ": ColorIcono incorrecto: " + Texto(e.ColorIcono()), "ColorIcono puesto a -1",
+                       [&] { e.ColorIcono(-1); });
+        }
+        if (mal(e.ColorLinea())) {
+            Corregible(s, ": ColorLínea incorrecto: " + Texto(e.ColorLinea()), "ColorLinea puesto a -1",
+                       [&] { e.ColorLinea(-1); });
+        }
+        if (mal(e.ConecSec1())) Incorregible(s, ": ConecSec1 incorrecta: " + Texto(e.ConecSec1()) + ". ");
+        if (mal(e.ConecSec2())) Incorregible(s, ": ConecSec2 incorrecta: " + Texto(e.ConecSec2()) + ". ");
         if (e.ElemFin() < 0) Incorregible(s, ": ElemFin incorrecto: " + Texto(e.ElemFin()) + ". ");
         VerificaElementoInicial(s);
-        Corregible(s, e.EtiquetaTamanyo() <= 0,
-                   ": EtiquetaTamanyo incorrecto: " + TextoDeNumero(e.EtiquetaTamanyo()) + ". ",
-                   "EtiquetaTamanyo puesto a 1", [](Elemento& mal) { mal.EtiquetaTamanyo(1); });
+        if (e.EtiquetaTamanyo() <= 0) {
+            Corregible(s, ": EtiquetaTamanyo incorrecto: " + TextoDeNumero(e.EtiquetaTamanyo()),
+                       "EtiquetaTamanyo puesto a 1", [&] { e.EtiquetaTamanyo(1); });
+        }
         if (e.gfCodSIG() < 0) Incorregible(s, " contiene un código negativo: " + Texto(e.gfCodSIG()) + ". ");
         VerificaNumero(s);
-        Corregible(s, e.Tamanyo() <= 0, ": Tamanyo incorrecto: " + TextoDeNumero(e.Tamanyo()) + ". ",
-                   "Tamanyo puesto a 1", [](Elemento& mal) { mal.Tamanyo(1); });
+        if (e.Tamanyo() <= 0) {
+            Corregible(s, ": Tamanyo incorrecto: " + TextoDeNumero(e.Tamanyo()), "Tamanyo puesto a 1",
+                       [&] { e.Tamanyo(1); });
+        }
         if (!TipoConocido(e.Tipo())) Incorregible(s, ": Tipo incorrecto: " + Texto(e.Tipo()) + ". ");
     });
 }
@@ -254,8 +268,7 @@ void Verificador::VerificaNumero(const Sitio& s) {
     const std::int16_t numero = s.e.KeyPant();
     const bool falta = s.e.Tipo() != ctNudo && numero == 0;
     if (!falta && numero >= 0) return;
-    // Negative numbers stay as they are.
-    Pendiente(s, numeros_, ": Keypant incorrecto: " + Texto(numero) + ". ", falta ? "numerado de nuevo" : "");
+    Pendiente(s, numeros_, ": Keypant incorrecto: " + Texto(numero) + ". ");
 }
 
 void Verificador::VerificaRepetidos() {
@@ -269,12 +282,10 @@ void Verificador::VerificaRepetidos() {
     for (const auto& e : elementos_)
         todos.push_back(e.get());
     std::int32_t parejas = 0;
-    const auto informa = [&](std::int32_t i, std::int32_t j, const std::string& texto,
-                             const char* correccion) {
+    const auto informa = [&](std::int32_t i, std::int32_t j, const std::string& texto) {
         if (++parejas > PAREJAS_INFORMADAS) return;
         const Sitio segundo{j + 1, *todos[static_cast<std::size_t>(j)]};
-        Encontrado(segundo, texto + "(también en la posición " + Texto(i + 1) + ")",
-                   corrige_ ? correccion : "");
+        Encontrado(segundo, texto + "(también en la posición " + Texto(i + 1) + ")", "");
         if (!corrige_) informe_ += SALTO + texto;
     };
     for (std::int32_t i = 0; i < elementos_.Count() && parejas <= PAREJAS_INFORMADAS; ++i) {
@@ -286,14 +297,12 @@ void Verificador::VerificaRepetidos() {
             if (c >= 0 && (n < 0 || c <= n)) {
                 informa(i, c,
                         "El objeto Elementos contiene dos o más elementos con el código gfCodSIG " +
-                            Texto(e.gfCodSIG()) + ". ",
-                        "código nuevo");
+                            Texto(e.gfCodSIG()) + ". ");
                 c = deCodigo.Siguiente(c);
             } else {
                 informa(i, n,
                         "El objeto Elementos contiene dos o más elementos tipo " + Texto(e.Tipo()) +
-                            " con el código de pantalla " + Texto(e.KeyPant()) + ". ",
-                        "numerado de nuevo");
+                            " con el código de pantalla " + Texto(e.KeyPant()) + ". ");
                 n = deNumero.Siguiente(n);
             }
         }
@@ -307,17 +316,15 @@ void Verificador::VerificaRepetidos() {
 
 void Verificador::VerificaTrazado(const Sitio& s, const Puntos* trazado, const char* cual,
                                   const char* dueno) {
-    constexpr const char* CORRECCION = "trazado rehecho";
     if (!trazado) {
         trazados_ = true;
         const std::string texto = " no tiene un " + std::string(cual) + " definido. ";
-        Encontrado(s, texto, corrige_ ? CORRECCION : "");
+        Encontrado(s, texto, "");
         if (!corrige_)
             informe_ +=
                 SALTO + std::string(dueno) + " almacenado en la posición " + Texto(s.posicion) + texto;
     } else if (trazado->Count() < 2) {
-        Pendiente(s, trazados_, " contiene " + Texto(trazado->Count()) + " puntos en su " + cual + ". ",
-                  CORRECCION);
+        Pendiente(s, trazados_, " contiene " + Texto(trazado->Count()) + " puntos en su " + cual + ". ");
     }
 }
 
@@ -358,6 +365,7 @@ void Verificador::VerificaConexionesSecundarias() {
         if (e.ConecSec2() != -1 && e.ConecSec1() == -1) {
             e.ConecSec1(e.ConecSec2());
             e.ConecSec2(-1);
+            if (corrige_) Encontrado(s, "ConecSec2 sin ConecSec1", "pasada a ConecSec1");
         } else if (e.ConecSec2() != -1) {
             VerificaMutua(s, e.ConecSec2(), "ConecSec2");
         }
@@ -380,19 +388,21 @@ void Verificador::VerificaTiposDeExtremos() {
 }
 
 void Verificador::CorrigeNumeros() {
-    Renumera(
-        elementos_, [](const Elemento& e) { return std::int32_t{e.KeyPant()}; },
-        [](Elemento& e, std::int16_t numero) { e.KeyPant(numero); });
+    for (const auto& nuevo : NumerosNuevos(elementos_, [](const Elemento& e) { return e.KeyPant(); })) {
+        Encontrado({nuevo.posicion, *nuevo.elemento}, "Keypant " + Texto(nuevo.elemento->KeyPant()),
+                   "Keypant " + Texto(nuevo.numero));
+        nuevo.elemento->KeyPant(nuevo.numero);
+    }
     numeros_ = false;
 }
 
 void Verificador::CorrigeCodigos() {
-    Renumera(
-        elementos_, [](const Elemento& e) { return e.gfCodSIG(); },
-        [](Elemento& e, std::int16_t codigo) {
-            e.gfCodSIG(codigo);
-            if (EmpiezaEnSiMismo(e.Tipo())) e.ElemIni(codigo);
-        });
+    for (const auto& nuevo : NumerosNuevos(elementos_, [](const Elemento& e) { return e.gfCodSIG(); })) {
+        Elemento& e = *nuevo.elemento;
+        Encontrado({nuevo.posicion, e}, "gfCodSIG " + Texto(e.gfCodSIG()), "gfCodSIG " + Texto(nuevo.numero));
+        e.gfCodSIG(nuevo.numero);
+        if (EmpiezaEnSiMismo(e.Tipo())) e.ElemIni(nuevo.numero);
+    }
     elementos_.RehaceClaves();
     IndexaCodigos();
     codigos_ = false;
@@ -415,9 +425,14 @@ bool Verificador::RehaceTrazados(Elemento& e) const {
 
 void Verificador::CorrigeTrazados() {
     trazados_ = false;
+    std::int32_t posicion = 0;
     for (const auto& e : elementos_) {
+        ++posicion;
         if (!EsLinealConocido(*e)) continue;
-        if (!RehaceTrazados(*e)) incorregible_ = true;
+        if (RehaceTrazados(*e))
+            Encontrado({posicion, *e}, "Trazado", "trazado recto entre sus extremos");
+        else
+            incorregible_ = true;
         if (incorregible_) return;
     }
 }

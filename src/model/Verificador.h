@@ -50,15 +50,14 @@ class Verificador {
     void VerificaTipoDeExtremo(const Sitio& s, std::int32_t codigo, bool inicio);
     bool RehaceTrazados(Elemento& e) const;
 
-    // What cannot be corrected; what can, and how; what a later step repairs, its flag.
+    // What cannot be corrected; what can, and how; what a later step repairs, with its flag.
     void Incorregible(const Sitio& s, const std::string& texto);
     template <typename Correccion>
-    void Corregible(const Sitio& s, bool mal, const std::string& texto, const char* correccion,
-                    Correccion corrige);
-    void Pendiente(const Sitio& s, bool& marca, const std::string& texto, const char* correccion);
+    void Corregible(const Sitio& s, const std::string& texto, const char* correccion, Correccion corrige);
+    void Pendiente(const Sitio& s, bool& marca, const std::string& texto);
     // Notes an entry of the report about one element, or a finding alone.
     void Informa(const Sitio& s, const std::string& texto);
-    void Encontrado(const Sitio& s, const std::string& problema, const char* correccion);
+    void Encontrado(const Sitio& s, const std::string& problema, const std::string& correccion);
 
     void IndexaCodigos();
     Elemento* DeCodigo(std::int32_t codigo) const;

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 
 #include "platform/Fallo.h"
 #include "platform/Texto.h"
@@ -12,6 +13,20 @@ RutaPartida ParteRuta(std::string_view ruta) {
     const std::size_t separador = ruta.find_last_of("\\/");
     const std::size_t nombre = separador == std::string_view::npos ? 0 : separador + 1;
     return {std::string(ruta.substr(0, nombre)), std::string(ruta.substr(nombre))};
+}
+
+std::string SinEnlaces(const std::string& nombre) {
+    namespace fs = std::filesystem;
+    constexpr int MAXIMO_DE_ENLACES = 40;
+    fs::path ruta = nombre;
+    std::error_code error;
+    for (int i = 0; fs::is_symlink(ruta, error); ++i) {
+        if (i == MAXIMO_DE_ENLACES) throw Fallo(75);
+        const fs::path siguiente = fs::read_symlink(ruta, error);
+        if (error) throw Fallo(75);
+        ruta = siguiente.is_absolute() ? siguiente : ruta.parent_path() / siguiente;
+    }
+    return ruta.string();
 }
 
 void EscribeRegistro(const std::string& nombre, std::string_view texto) {

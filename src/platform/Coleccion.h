@@ -39,7 +39,7 @@ class Coleccion {
     void Add(T valor, const Variante& clave) {
         if (!clave.EsTexto()) throw Fallo(13);
         const auto [lugar, nueva] = porClave_.try_emplace(EnMinusculas(clave.Texto()), valor);
-        if (!nueva) throw Fallo(457);
+        if (!nueva) throw Fallo(457, Fallo(457).Description() + ": " + clave.Texto());
         claves_.resize(valores_.size());
         claves_.push_back(&lugar->first);
         valores_.push_back(std::move(valor));

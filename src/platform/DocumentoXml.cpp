@@ -2,16 +2,13 @@
 
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
-#include <libxml/xmlsave.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <utility>
 
 #include "platform/Fallo.h"
-#include "platform/Texto.h"
 
 namespace zel {
 
@@ -139,35 +136,6 @@ const char* CodificacionDeLaMarca(std::FILE* archivo) noexcept {
     return nullptr;
 }
 
-// What XML 1.0 can carry, control characters aside.
-bool EsDeXml(char32_t c) noexcept {
-    if (c < 0x20) return c == '\t' || c == '\n' || c == '\r';
-    return c < 0xD800 || (c > 0xDFFF && c < 0xFFFE) || (c > 0xFFFF && c <= 0x10FFFF);
-}
-
-bool EsLlano(std::string_view texto) noexcept {
-    return std::all_of(texto.begin(), texto.end(), [](char c) { return c >= 0x20 && c < 0x7F; });
-}
-
-std::string TextoDeXml(std::string_view texto) {
-    std::string limpio;
-    limpio.reserve(texto.size());
-    for (std::size_t i = 0; i < texto.size();) {
-        const char32_t c = SiguienteCaracter(texto, i);
-        if (EsDeXml(c)) AgregaCaracter(limpio, c);
-    }
-    return limpio;
-}
-
-const xmlChar* Xml(const char* texto) noexcept {
-    return reinterpret_cast<const xmlChar*>(texto);
-}
-
-int EscribeTrozo(void* archivo, const char* origen, int cuanto) {
-    auto* f = static_cast<std::FILE*>(archivo);
-    return static_cast<int>(std::fwrite(origen, 1, static_cast<std::size_t>(cuanto), f));
-}
-
 }  // namespace
 
 bool DocumentoXml::Carga(const std::string& nombreArchivo) {
@@ -195,53 +163,6 @@ bool DocumentoXml::Carga(const std::string& nombreArchivo) {
     }
     if (!motivo_.empty()) documento_.reset();
     return documento_ != nullptr;
-}
-
-bool DocumentoXml::Analiza(std::string_view texto) {
-    Analisis analisis;
-    const EscuchaFallos escucha(analisis);
-    documento_.reset(
-        xmlReadMemory(texto.data(), static_cast<int>(texto.size()), nullptr, nullptr, XML_PARSE_NONET));
-    return documento_ != nullptr;
-}
-
-void DocumentoXml::Guarda(const std::string& nombreArchivo) const {
-    if (!documento_) throw Fallo(91);
-    std::FILE* archivo = std::fopen(nombreArchivo.c_str(), "wb");
-    if (!archivo) throw Fallo(NumeroDeErrno(errno));
-    const char* codificacion = reinterpret_cast<const char*>(documento_->encoding);
-    xmlSaveCtxt* guardado = xmlSaveToIO(EscribeTrozo, nullptr, archivo, codificacion, 0);
-    const bool escrito = guardado && xmlSaveDoc(guardado, documento_.get()) >= 0;
-    const bool vaciado = guardado && xmlSaveClose(guardado) >= 0;
-    const int error = errno;
-    const bool conError = std::ferror(archivo) != 0;
-    const bool cerrado = std::fclose(archivo) == 0;
-    if (escrito && vaciado && !conError && cerrado) return;
-    throw Fallo(NumeroDeErrno(conError || cerrado ? error : errno));
-}
-
-xmlNode* DocumentoXml::Agrega(xmlNode* padre, const char* nombre) {
-    // Names of the dictionary are shared by all the elements that carry them.
-    auto* propio = const_cast<xmlChar*>(xmlDictLookup(documento_->dict, Xml(nombre), -1));
-    xmlNode* nodo = propio ? xmlNewDocNodeEatName(documento_.get(), nullptr, propio, nullptr) : nullptr;
-    if (!nodo || !xmlAddChild(padre, nodo)) throw Fallo(7);
-    return nodo;
-}
-
-xmlNode* DocumentoXml::Agrega(xmlNode* padre, const char* nombre, std::string_view texto) {
-    xmlNode* nodo = Agrega(padre, nombre);
-    if (EsLlano(texto))
-        PonTexto(nodo, texto);
-    else
-        PonTexto(nodo, TextoDeXml(texto));
-    return nodo;
-}
-
-void DocumentoXml::PonTexto(xmlNode* padre, std::string_view texto) {
-    if (texto.empty()) return;
-    xmlNode* nodo = xmlNewDocTextLen(documento_.get(), reinterpret_cast<const xmlChar*>(texto.data()),
-                                     static_cast<int>(texto.size()));
-    if (!nodo || !xmlAddChild(padre, nodo)) throw Fallo(7);
 }
 
 const xmlChar* DocumentoXml::Nombre(const char* nombre) const noexcept {

@@ -17,21 +17,6 @@ class DocumentoXml {
     bool Carga(const std::string& nombreArchivo);
     const std::string& Motivo() const noexcept { return motivo_; }
 
-    // Parses a text; false when it is not well-formed.
-    bool Analiza(std::string_view texto);
-    // Writes the document in the encoding of its declaration; a character outside it becomes a numeric
-    // reference. Fails with the number of the system's reason (61 disk full, 70 permission, 75 ...).
-    void Guarda(const std::string& nombreArchivo) const;
-    void Vacia() noexcept { documento_.reset(); }
-    explicit operator bool() const noexcept { return documento_ != nullptr; }
-
-    // A new last child of `padre`, empty or with a text. Control characters that XML cannot carry are left
-    // out of the text, and bytes that are not UTF-8 are taken as Latin-1. Fails with 7.
-    xmlNode* Agrega(xmlNode* padre, const char* nombre);
-    xmlNode* Agrega(xmlNode* padre, const char* nombre, std::string_view texto);
-    // A line break behind what `padre` has so far, for who reads or compares the file.
-    void AgregaSalto(xmlNode* padre) { PonTexto(padre, "\n"); }
-
     // The document element, or null.
     xmlNode* Raiz() const noexcept { return documento_ ? xmlDocGetRootElement(documento_.get()) : nullptr; }
 
@@ -40,8 +25,6 @@ class DocumentoXml {
     const xmlChar* Nombre(const char* nombre) const noexcept;
 
   private:
-    void PonTexto(xmlNode* padre, std::string_view texto);
-
     struct Suelta {
         void operator()(xmlDoc* documento) const noexcept { xmlFreeDoc(documento); }
     };

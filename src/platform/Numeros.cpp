@@ -82,7 +82,7 @@ T Valor(const Tramo& tramo) {
         if (!EsDiminuto(tramo.cifras)) throw Fallo(6);
         valor = 0;
     }
-    return tramo.negativo ? -valor : valor;
+    return tramo.negativo && valor != 0 ? -valor : valor;  // there is no minus zero
 }
 
 template <typename T>

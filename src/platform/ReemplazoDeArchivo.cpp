@@ -20,20 +20,6 @@ namespace fs = std::filesystem;
     throw Fallo(NumeroDeErrno(errno));
 }
 
-// The file that the name stands for at the end of all links, also of one that leads to no file yet.
-std::string SinEnlaces(const std::string& nombre) {
-    constexpr int MAXIMO_DE_ENLACES = 40;
-    fs::path ruta = nombre;
-    std::error_code error;
-    for (int i = 0; fs::is_symlink(ruta, error); ++i) {
-        if (i == MAXIMO_DE_ENLACES) throw Fallo(75);
-        const fs::path siguiente = fs::read_symlink(ruta, error);
-        if (error) throw Fallo(75);
-        ruta = siguiente.is_absolute() ? siguiente : ruta.parent_path() / siguiente;
-    }
-    return ruta.string();
-}
-
 class Descriptor {
   public:
     explicit Descriptor(int fd) noexcept : fd_(fd) {}
@@ -56,7 +42,7 @@ mode_t PermisosNuevos() {
 }
 
 void VaciaCarpeta(const std::string& archivo) noexcept {
-    const std::string carpeta = ParteRuta(archivo).carpeta;
+    const std::string carpeta = fs::path(archivo).parent_path().string();
     const Descriptor fd(open(carpeta.empty() ? "." : carpeta.c_str(), O_RDONLY | O_DIRECTORY));
     if (*fd >= 0) fsync(*fd);  // some file systems cannot: the rename stands all the same
 }
@@ -69,10 +55,10 @@ ReemplazoDeArchivo::ReemplazoDeArchivo(const std::string& destino) : destino_(Si
         if (!S_ISREG(antes.st_mode)) throw Fallo(75);
         if (access(destino_.c_str(), W_OK) != 0) FallaElSistema();
     }
-    const RutaPartida partes = ParteRuta(destino_);
+    const fs::path carpeta = fs::path(destino_).parent_path();
     std::error_code error;
-    if (!partes.carpeta.empty() && !fs::is_directory(partes.carpeta, error)) throw Fallo(76);
-    std::string plantilla = partes.carpeta + "." + partes.nombre + ".XXXXXX";
+    if (!carpeta.empty() && !fs::is_directory(carpeta, error)) throw Fallo(76);
+    std::string plantilla = (carpeta / ".zel-XXXXXX").string();
     const Descriptor fd(mkstemp(plantilla.data()));
     if (*fd < 0) FallaElSistema();
     temporal_ = plantilla;
@@ -84,7 +70,7 @@ ReemplazoDeArchivo::~ReemplazoDeArchivo() {
 
 void ReemplazoDeArchivo::Confirma() {
     {
-        const Descriptor fd(open(temporal_.c_str(), O_RDWR));
+        const Descriptor fd(open(temporal_.c_str(), O_RDONLY));
         if (*fd < 0) FallaElSistema();
         struct stat antes {};
         if (stat(destino_.c_str(), &antes) == 0) {
@@ -101,14 +87,21 @@ void ReemplazoDeArchivo::Confirma() {
     VaciaCarpeta(destino_);
 }
 
-void CopiaArchivo(const std::string& origen, const std::string& destino) {
+CopiaDeArchivo::CopiaDeArchivo(const std::string& destino, const std::string& origen) {
     std::error_code error;
     if (fs::equivalent(origen, destino, error)) return;
-    ReemplazoDeArchivo reemplazo(destino);
-    if (!fs::copy_file(origen, reemplazo.Temporal(), fs::copy_options::overwrite_existing, error)) {
+    reemplazo_.emplace(destino);
+    if (!fs::copy_file(origen, reemplazo_->Temporal(), fs::copy_options::overwrite_existing, error)) {
         throw Fallo(NumeroDeErrno(error.value()));
     }
-    reemplazo.Confirma();
+}
+
+void CopiaDeArchivo::Confirma() {
+    if (reemplazo_) reemplazo_->Confirma();
+}
+
+void CopiaArchivo(const std::string& origen, const std::string& destino) {
+    CopiaDeArchivo(destino, origen).Confirma();
 }
 
 }  // namespace zel

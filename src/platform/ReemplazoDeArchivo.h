@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace zel {
@@ -26,6 +27,16 @@ class ReemplazoDeArchivo {
   private:
     std::string destino_;
     std::string temporal_;
+};
+
+// A copy of a file that waits to be put in place; nothing when both are the same file.
+class CopiaDeArchivo {
+  public:
+    CopiaDeArchivo(const std::string& destino, const std::string& origen);
+    void Confirma();
+
+  private:
+    std::optional<ReemplazoDeArchivo> reemplazo_;
 };
 
 // Copies a file over another in a single step; nothing when both are the same file.

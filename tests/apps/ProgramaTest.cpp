@@ -67,6 +67,32 @@ TEST(Programa, ExportarDrawsThePictureWithoutADisplay) {
     EXPECT_GT(imagen.height(), 200);
 }
 
+TEST(Programa, ConvertirSavesWhatItReadsAndVerificarTellsWhatIsWrong) {
+    const CarpetaTemporal carpeta;
+    EXPECT_EQ(Ejecuta("convertir " + CUENCA + " a.xml").codigo, 0);
+    EXPECT_EQ(Ejecuta("convertir a.xml b.xml").codigo, 0);
+    const std::string sano = LeeArchivo("a.xml");
+    EXPECT_EQ(LeeArchivo("b.xml"), sano);
+    EXPECT_TRUE(Contiene(sano, "<VerLineasSecundarias>True<"));
+    EXPECT_EQ(Ejecuta("verificar a.xml").codigo, 0);
+
+    std::string malo = sano;
+    malo.replace(malo.find("<ColorIcono>-1<"), 15, "<ColorIcono>-7<");
+    carpeta.Escribe("malo.xml", malo);
+    const Resultado faltas = Ejecuta("verificar malo.xml");
+    EXPECT_EQ(faltas.codigo, 1);
+    EXPECT_TRUE(
+        Contiene(faltas.texto, "posición 1, código 1, \"Puente de Villar\": ColorIcono incorrecto: -7\n"))
+        << faltas.texto;
+    EXPECT_TRUE(std::filesystem::exists("Integridad.log"));
+    const Resultado corregido = Ejecuta("verificar malo.xml --corregir malo.xml");
+    EXPECT_EQ(corregido.codigo, 1);
+    EXPECT_TRUE(Contiene(corregido.texto, "-7 -> ColorIcono puesto a -1")) << corregido.texto;
+    EXPECT_EQ(LeeArchivo("malo.xml"), sano);
+    EXPECT_EQ(Ejecuta("verificar nada.xml").codigo, 2);
+    EXPECT_EQ(Ejecuta("convertir a.xml no/hay.xml").codigo, 1);
+}
+
 TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
     const CarpetaTemporal carpeta;
     const std::string roto = carpeta.Escribe("roto.xml", "<Esquema><Elementos>");
