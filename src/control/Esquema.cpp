@@ -120,7 +120,10 @@ void Esquema::showEvent(QShowEvent* evento) {
     partes_->seHaMostrado = true;
     if (!partes_->ajustaAlMostrar) return;
     partes_->ajustaAlMostrar = false;
-    partes_->EnEvento([this] { ResizeGrafo(); });
+    partes_->EnEvento([this] {
+        partes_->vista.DisponeDeNuevo(partes_->panel->AnchoMm(), partes_->panel->AltoMm());
+        ResizeGrafo();
+    });
 }
 
 }  // namespace zel

@@ -20,10 +20,13 @@ bool EstadoSinParrilla(std::int32_t iEstado) noexcept {
 
 // The positions of the dots between two bounds, counted from the square's side.
 struct Recorrido {
-    std::int64_t primero, ultimo;
-    Recorrido(double desde, double hasta, double paso)
-        : primero(static_cast<std::int64_t>(RedondeaPar(desde / paso + 1))),
-          ultimo(static_cast<std::int64_t>(RedondeaPar(hasta / paso))) {}
+    std::int64_t primero = 1;
+    std::int64_t ultimo = 0;
+    Recorrido(double desde, double hasta, double paso) {
+        if (!(desde <= hasta)) return;  // out of sight, however far
+        primero = static_cast<std::int64_t>(RedondeaPar(desde / paso + 1));
+        ultimo = static_cast<std::int64_t>(RedondeaPar(hasta / paso));
+    }
 };
 
 // Inside the octagon: outside the four corners that its slanted sides cut off.

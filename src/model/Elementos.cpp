@@ -110,7 +110,7 @@ std::int32_t Elementos::RemoveCodSIG(std::int32_t codigo) try {
 }
 
 std::int16_t Elementos::VerificaIntegridad(bool Corrige, std::vector<HallazgoIntegridad>* hallazgos) try {
-    Verificador verificador(*this, Corrige);
+    Verificador verificador(*this, Corrige, hallazgos != nullptr);
     const std::int16_t resultado = verificador.Verifica();
     const std::string informe = verificador.Informe();
     if (hallazgos) *hallazgos = std::move(verificador).Hallazgos();

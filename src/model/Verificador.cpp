@@ -72,7 +72,8 @@ class Grupos {
     template <typename ValorDe>
     Grupos(const Elementos& elementos, ValorDe valorDe)
         : siguiente_(static_cast<std::size_t>(elementos.Count()), -1) {
-        std::unordered_map<Clave, std::int32_t> ultima;
+        std::pmr::monotonic_buffer_resource memoria;
+        std::pmr::unordered_map<Clave, std::int32_t> ultima(&memoria);
         ultima.reserve(siguiente_.size());
         std::int32_t i = 0;
         for (const auto& e : elementos) {
@@ -151,12 +152,26 @@ std::string SinEnlace(const std::string& texto) {
 
 std::int16_t Verificador::Verifica() {
     IndexaCodigos();
-    VerificaValores();
+    // One walk over the elements for all the steps, each of which reports into its own part.
+    std::int32_t posicion = 0;
+    for (const auto& e : elementos_) {
+        const Sitio s{++posicion, *e};
+        paso_ = Paso::Valores;
+        VerificaValores(s);
+        if (EsLinealConocido(*e)) {
+            const Extremos extremos{DeCodigo(e->ElemIni()), DeCodigo(e->ElemFin())};
+            paso_ = Paso::Trazados;
+            VerificaTrazados(s);
+            paso_ = Paso::Extremos;
+            VerificaExtremos(s, extremos);
+            paso_ = Paso::TiposDeExtremos;
+            VerificaTiposDeExtremos(s, extremos);
+        }
+        paso_ = Paso::ConexionesSecundarias;
+        VerificaConexionesSecundarias(s);
+    }
+    paso_ = Paso::Repetidos;
     VerificaRepetidos();
-    VerificaTrazados();
-    VerificaExtremos();
-    VerificaConexionesSecundarias();
-    VerificaTiposDeExtremos();
     if (corrige_ && numeros_) CorrigeNumeros();
     if (corrige_ && codigos_) CorrigeCodigos();
     if (corrige_ && trazados_) CorrigeTrazados();
@@ -170,11 +185,15 @@ std::int16_t Verificador::Verifica() {
     return resultado;
 }
 
-template <typename Accion>
-void Verificador::PorElementos(Accion accion) {
-    std::int32_t posicion = 0;
-    for (const auto& e : elementos_)
-        accion(Sitio{++posicion, *e});
+std::string Verificador::Informe() const {
+    std::string informe;
+    for (const std::string& parte : informe_)
+        informe += parte;
+    return informe;
+}
+
+std::string& Verificador::ParteDelInforme() noexcept {
+    return informe_[static_cast<std::size_t>(paso_)];
 }
 
 void Verificador::IndexaCodigos() {
@@ -190,11 +209,12 @@ Elemento* Verificador::DeCodigo(std::int32_t codigo) const {
 }
 
 void Verificador::Encontrado(const Sitio& s, const std::string& problema, const std::string& correccion) {
+    if (!conHallazgos_) return;
     hallazgos_.push_back({s.posicion, s.e.gfCodSIG(), s.e.Nombre(), SinEnlace(problema), correccion});
 }
 
 void Verificador::Informa(const Sitio& s, const std::string& texto) {
-    informe_ += SALTO + ("El elemento almacenado en la posición " + Texto(s.posicion)) + texto;
+    ParteDelInforme() += SALTO + ("El elemento almacenado en la posición " + Texto(s.posicion)) + texto;
     Encontrado(s, texto, "");
 }
 
@@ -223,34 +243,32 @@ void Verificador::Pendiente(const Sitio& s, bool& marca, const std::string& text
         Informa(s, texto);
 }
 
-void Verificador::VerificaValores() {
+void Verificador::VerificaValores(const Sitio& s) {
     const auto mal = [](std::int32_t valor) { return valor < 0 && valor != -1; };
-    PorElementos([&](const Sitio& s) {
-        Elemento& e = s.e;
-        if (mal(e.ColorIcono())) {
-            Corregible(s, ": ColorIcono incorrecto: " + Texto(e.ColorIcono()), "ColorIcono puesto a -1",
-                       [&] { e.ColorIcono(-1); });
-        }
-        if (mal(e.ColorLinea())) {
-            Corregible(s, ": ColorLínea incorrecto: " + Texto(e.ColorLinea()), "ColorLinea puesto a -1",
-                       [&] { e.ColorLinea(-1); });
-        }
-        if (mal(e.ConecSec1())) Incorregible(s, ": ConecSec1 incorrecta: " + Texto(e.ConecSec1()) + ". ");
-        if (mal(e.ConecSec2())) Incorregible(s, ": ConecSec2 incorrecta: " + Texto(e.ConecSec2()) + ". ");
-        if (e.ElemFin() < 0) Incorregible(s, ": ElemFin incorrecto: " + Texto(e.ElemFin()) + ". ");
-        VerificaElementoInicial(s);
-        if (e.EtiquetaTamanyo() <= 0) {
-            Corregible(s, ": EtiquetaTamanyo incorrecto: " + TextoDeNumero(e.EtiquetaTamanyo()),
-                       "EtiquetaTamanyo puesto a 1", [&] { e.EtiquetaTamanyo(1); });
-        }
-        if (e.gfCodSIG() < 0) Incorregible(s, " contiene un código negativo: " + Texto(e.gfCodSIG()) + ". ");
-        VerificaNumero(s);
-        if (e.Tamanyo() <= 0) {
-            Corregible(s, ": Tamanyo incorrecto: " + TextoDeNumero(e.Tamanyo()), "Tamanyo puesto a 1",
-                       [&] { e.Tamanyo(1); });
-        }
-        if (!TipoConocido(e.Tipo())) Incorregible(s, ": Tipo incorrecto: " + Texto(e.Tipo()) + ". ");
-    });
+    Elemento& e = s.e;
+    if (mal(e.ColorIcono())) {
+        Corregible(s, ": ColorIcono incorrecto: " + Texto(e.ColorIcono()), "ColorIcono puesto a -1",
+                   [&] { e.ColorIcono(-1); });
+    }
+    if (mal(e.ColorLinea())) {
+        Corregible(s, ": ColorLínea incorrecto: " + Texto(e.ColorLinea()), "ColorLinea puesto a -1",
+                   [&] { e.ColorLinea(-1); });
+    }
+    if (mal(e.ConecSec1())) Incorregible(s, ": ConecSec1 incorrecta: " + Texto(e.ConecSec1()) + ". ");
+    if (mal(e.ConecSec2())) Incorregible(s, ": ConecSec2 incorrecta: " + Texto(e.ConecSec2()) + ". ");
+    if (e.ElemFin() < 0) Incorregible(s, ": ElemFin incorrecto: " + Texto(e.ElemFin()) + ". ");
+    VerificaElementoInicial(s);
+    if (e.EtiquetaTamanyo() <= 0) {
+        Corregible(s, ": EtiquetaTamanyo incorrecto: " + TextoDeNumero(e.EtiquetaTamanyo()),
+                   "EtiquetaTamanyo puesto a 1", [&] { e.EtiquetaTamanyo(1); });
+    }
+    if (e.gfCodSIG() < 0) Incorregible(s, " contiene un código negativo: " + Texto(e.gfCodSIG()) + ". ");
+    VerificaNumero(s);
+    if (e.Tamanyo() <= 0) {
+        Corregible(s, ": Tamanyo incorrecto: " + TextoDeNumero(e.Tamanyo()), "Tamanyo puesto a 1",
+                   [&] { e.Tamanyo(1); });
+    }
+    if (!TipoConocido(e.Tipo())) Incorregible(s, ": Tipo incorrecto: " + Texto(e.Tipo()) + ". ");
 }
 
 void Verificador::VerificaElementoInicial(const Sitio& s) {
@@ -286,7 +304,7 @@ void Verificador::VerificaRepetidos() {
         if (++parejas > PAREJAS_INFORMADAS) return;
         const Sitio segundo{j + 1, *todos[static_cast<std::size_t>(j)]};
         Encontrado(segundo, texto + "(también en la posición " + Texto(i + 1) + ")", "");
-        if (!corrige_) informe_ += SALTO + texto;
+        if (!corrige_) ParteDelInforme() += SALTO + texto;
     };
     for (std::int32_t i = 0; i < elementos_.Count() && parejas <= PAREJAS_INFORMADAS; ++i) {
         const Elemento& e = *todos[static_cast<std::size_t>(i)];
@@ -308,9 +326,9 @@ void Verificador::VerificaRepetidos() {
         }
     }
     if (parejas > PAREJAS_INFORMADAS && !corrige_) {
-        informe_ += SALTO +
-                    ("Hay más elementos repetidos; se informa de los primeros " + Texto(PAREJAS_INFORMADAS)) +
-                    ". ";
+        ParteDelInforme() +=
+            SALTO + ("Hay más elementos repetidos; se informa de los primeros " + Texto(PAREJAS_INFORMADAS)) +
+            ". ";
     }
 }
 
@@ -321,32 +339,26 @@ void Verificador::VerificaTrazado(const Sitio& s, const Puntos* trazado, const c
         const std::string texto = " no tiene un " + std::string(cual) + " definido. ";
         Encontrado(s, texto, "");
         if (!corrige_)
-            informe_ +=
+            ParteDelInforme() +=
                 SALTO + std::string(dueno) + " almacenado en la posición " + Texto(s.posicion) + texto;
     } else if (trazado->Count() < 2) {
         Pendiente(s, trazados_, " contiene " + Texto(trazado->Count()) + " puntos en su " + cual + ". ");
     }
 }
 
-void Verificador::VerificaTrazados() {
-    PorElementos([this](const Sitio& s) {
-        if (!EsLinealConocido(s.e)) return;
-        VerificaTrazado(s, s.e.Trazado().get(), "Trazado", "El elemento");
-        if (s.e.Tipo() != ctCentralHidroelectrica) return;
-        VerificaTrazado(s, s.e.Trazado2().get(), "Trazado2", "El elemento centralHE");
-    });
+void Verificador::VerificaTrazados(const Sitio& s) {
+    VerificaTrazado(s, s.e.Trazado().get(), "Trazado", "El elemento");
+    if (s.e.Tipo() != ctCentralHidroelectrica) return;
+    VerificaTrazado(s, s.e.Trazado2().get(), "Trazado2", "El elemento centralHE");
 }
 
-void Verificador::VerificaExtremos() {
-    PorElementos([this](const Sitio& s) {
-        if (!EsLinealConocido(s.e)) return;
-        if (!DeCodigo(s.e.ElemIni())) {
-            Incorregible(s, " no tiene nudo de inicio: ElemIni: " + Texto(s.e.ElemIni()) + ". ");
-        }
-        if (!DeCodigo(s.e.ElemFin())) {
-            Incorregible(s, " no tiene nudo de destino: ElemFin: " + Texto(s.e.ElemFin()) + ". ");
-        }
-    });
+void Verificador::VerificaExtremos(const Sitio& s, const Extremos& extremos) {
+    if (!extremos.inicio) {
+        Incorregible(s, " no tiene nudo de inicio: ElemIni: " + Texto(s.e.ElemIni()) + ". ");
+    }
+    if (!extremos.fin) {
+        Incorregible(s, " no tiene nudo de destino: ElemFin: " + Texto(s.e.ElemFin()) + ". ");
+    }
 }
 
 void Verificador::VerificaMutua(const Sitio& s, std::int32_t codigo, const char* cual) {
@@ -359,32 +371,27 @@ void Verificador::VerificaMutua(const Sitio& s, std::int32_t codigo, const char*
                    Texto(codigo) + " y éste también tienen una concexión secundaria con el primero. ");
 }
 
-void Verificador::VerificaConexionesSecundarias() {
-    PorElementos([this](const Sitio& s) {
-        Elemento& e = s.e;
-        if (e.ConecSec2() != -1 && e.ConecSec1() == -1) {
-            e.ConecSec1(e.ConecSec2());
-            e.ConecSec2(-1);
-            if (corrige_) Encontrado(s, "ConecSec2 sin ConecSec1", "pasada a ConecSec1");
-        } else if (e.ConecSec2() != -1) {
-            VerificaMutua(s, e.ConecSec2(), "ConecSec2");
-        }
-        if (e.ConecSec1() != -1) VerificaMutua(s, e.ConecSec1(), "ConecSec1");
-    });
+void Verificador::VerificaConexionesSecundarias(const Sitio& s) {
+    Elemento& e = s.e;
+    if (e.ConecSec2() != -1 && e.ConecSec1() == -1) {
+        e.ConecSec1(e.ConecSec2());
+        e.ConecSec2(-1);
+        if (corrige_) Encontrado(s, "ConecSec2 sin ConecSec1", "pasada a ConecSec1");
+    } else if (e.ConecSec2() != -1) {
+        VerificaMutua(s, e.ConecSec2(), "ConecSec2");
+    }
+    if (e.ConecSec1() != -1) VerificaMutua(s, e.ConecSec1(), "ConecSec1");
 }
 
-void Verificador::VerificaTipoDeExtremo(const Sitio& s, std::int32_t codigo, bool inicio) {
+void Verificador::VerificaTipoDeExtremo(const Sitio& s, const Elemento* extremo, bool inicio) {
     const ReglaDeExtremo* regla = ReglaDe(s.e.Tipo(), inicio);
-    const Elemento* extremo = DeCodigo(codigo);
     if (!regla || !extremo || regla->admite(extremo->Tipo())) return;
-    Incorregible(s, " está conectado al elemento de código " + Texto(codigo) + regla->final);
+    Incorregible(s, " está conectado al elemento de código " + Texto(extremo->gfCodSIG()) + regla->final);
 }
 
-void Verificador::VerificaTiposDeExtremos() {
-    PorElementos([this](const Sitio& s) {
-        VerificaTipoDeExtremo(s, s.e.ElemIni(), true);
-        VerificaTipoDeExtremo(s, s.e.ElemFin(), false);
-    });
+void Verificador::VerificaTiposDeExtremos(const Sitio& s, const Extremos& extremos) {
+    VerificaTipoDeExtremo(s, extremos.inicio, true);
+    VerificaTipoDeExtremo(s, extremos.fin, false);
 }
 
 void Verificador::CorrigeNumeros() {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <memory_resource>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -15,14 +17,16 @@ namespace zel {
 // ends by code.
 class Verificador {
   public:
-    Verificador(Elementos& elementos, bool Corrige) : elementos_(elementos), corrige_(Corrige) {}
+    // Findings are collected when asked for; the report always is.
+    Verificador(Elementos& elementos, bool Corrige, bool conHallazgos)
+        : elementos_(elementos), corrige_(Corrige), conHallazgos_(conHallazgos) {}
 
     // Runs every step and returns the result.
     std::int16_t Verifica();
 
     // The report, as the log takes it: each entry behind a line break. What was corrected is not in it.
-    const std::string& Informe() const noexcept { return informe_; }
-    // Everything found, corrected or not, in the order in which it was found.
+    std::string Informe() const;
+    // Everything found, corrected or not: element by element, then the equal ones, then what was repaired.
     std::vector<HallazgoIntegridad> Hallazgos() && { return std::move(hallazgos_); }
 
   private:
@@ -30,15 +34,21 @@ class Verificador {
         std::int32_t posicion;  // from 1
         Elemento& e;
     };
-    template <typename Accion>
-    void PorElementos(Accion accion);
+    // The elements at the ends of a linear one; null for one that does not exist.
+    struct Extremos {
+        const Elemento* inicio;
+        const Elemento* fin;
+    };
+    // The steps, in the order of the report.
+    enum class Paso { Valores, Repetidos, Trazados, Extremos, ConexionesSecundarias, TiposDeExtremos };
+    static constexpr std::size_t PASOS = 6;
 
-    void VerificaValores();
+    void VerificaValores(const Sitio& s);
     void VerificaRepetidos();
-    void VerificaTrazados();
-    void VerificaExtremos();
-    void VerificaConexionesSecundarias();
-    void VerificaTiposDeExtremos();
+    void VerificaTrazados(const Sitio& s);
+    void VerificaExtremos(const Sitio& s, const Extremos& extremos);
+    void VerificaConexionesSecundarias(const Sitio& s);
+    void VerificaTiposDeExtremos(const Sitio& s, const Extremos& extremos);
     void CorrigeNumeros();
     void CorrigeCodigos();
     void CorrigeTrazados();
@@ -47,7 +57,7 @@ class Verificador {
     void VerificaNumero(const Sitio& s);
     void VerificaTrazado(const Sitio& s, const Puntos* trazado, const char* cual, const char* dueno);
     void VerificaMutua(const Sitio& s, std::int32_t codigo, const char* cual);
-    void VerificaTipoDeExtremo(const Sitio& s, std::int32_t codigo, bool inicio);
+    void VerificaTipoDeExtremo(const Sitio& s, const Elemento* extremo, bool inicio);
     bool RehaceTrazados(Elemento& e) const;
 
     // What cannot be corrected; what can, and how; what a later step repairs, with its flag.
@@ -59,20 +69,25 @@ class Verificador {
     void Informa(const Sitio& s, const std::string& texto);
     void Encontrado(const Sitio& s, const std::string& problema, const std::string& correccion);
 
+    std::string& ParteDelInforme() noexcept;
     void IndexaCodigos();
     Elemento* DeCodigo(std::int32_t codigo) const;
 
     Elementos& elementos_;
     bool corrige_;
+    bool conHallazgos_;
     bool mutuas_ = false;
     bool valores_ = false;
     bool numeros_ = false;
     bool codigos_ = false;
     bool trazados_ = false;
     bool incorregible_ = false;
-    std::string informe_;
+    Paso paso_ = Paso::Valores;
+    std::array<std::string, PASOS> informe_;  // a part for each step
     std::vector<HallazgoIntegridad> hallazgos_;
-    std::unordered_map<std::int32_t, Elemento*> porCodigo_;  // the first element with each code
+    // The first element with each code; its nodes lie together, which is what looking up costs.
+    std::pmr::monotonic_buffer_resource memoria_;
+    std::pmr::unordered_map<std::int32_t, Elemento*> porCodigo_{&memoria_};
 };
 
 }  // namespace zel

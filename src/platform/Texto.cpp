@@ -57,6 +57,10 @@ std::string Latin1(std::string_view texto) {
     std::string latin1;
     latin1.reserve(texto.size());
     for (std::size_t i = 0; i < texto.size();) {
+        if (static_cast<unsigned char>(texto[i]) < 0x80) {
+            latin1.push_back(texto[i++]);
+            continue;
+        }
         const char32_t punto = SiguienteCaracter(texto, i);
         latin1.push_back(punto <= 0xFF ? static_cast<char>(punto) : '?');
     }

@@ -67,6 +67,7 @@ void Vista::Dispone(float ancho, float alto) try {
         panel_.ScaleHeight(-alto * unidadesPorMm);
         escalaDibujo_ = escalaDibujo_ / anterior * panel_.ScaleWidth();
         PonAreaActiva(areaActiva_);
+        MuestraZoom();
     }
     anchoPanel_ = ancho;
     relacionAspecto_ = std::abs(panel_.ScaleWidth() / panel_.ScaleHeight());

@@ -29,6 +29,12 @@ class Vista {
     // one unit per millimetre; later ones keep the units per pixel and the top left corner.
     void Dispone(float ancho, float alto);
 
+    // As if that were the first layout.
+    void DisponeDeNuevo(float ancho, float alto) {
+        anchoPanel_ = 0;
+        Dispone(ancho, alto);
+    }
+
     // Centres the view on a point, kept inside the world; with modo 1 it repaints now.
     void MueveScroll(float x, float y, std::int16_t modo);
 

@@ -8,6 +8,7 @@
 
 #include "control/Panel.h"
 #include "model/modErrorHandling.h"
+#include "support/DialogosGuion.h"
 
 namespace zel::pruebas {
 namespace {
@@ -85,6 +86,16 @@ TEST(Esquema, AFitAskedForBeforeItIsShownHoldsWhenItIs) {
     EXPECT_GT(dibujo.ScaleTop() + dibujo.ScaleHeight(), -1000)
         << "not fitted to the size that it is shown in";
     EXPECT_GT(dibujo.ScaleLeft() + dibujo.ScaleWidth(), 5000);
+
+    // One node: as close as the view gets, and no notice says so.
+    const DialogosGuion dialogos;
+    Esquema pequeno;
+    pequeno.GetElementos(DosNudos(0));
+    pequeno.ResizeGrafo();
+    pequeno.resize(300, 480);
+    pequeno.show();
+    QApplication::processEvents();
+    EXPECT_NEAR(pequeno.findChild<Panel*>()->lienzo().ScaleWidth(), 40.04, 0.1);
 }
 
 TEST_F(EsquemaEnVentana, ASchematicBeyondTheWorldDoesNotSpoilTheView) {
