@@ -1,5 +1,8 @@
 #include "Carga.h"
 
+#include <filesystem>
+
+#include "file/Formato.h"
 #include "file/lectorArchivo.h"
 
 namespace zel {
@@ -12,15 +15,22 @@ EsquemaLeido NoLeido(std::string motivo) {
     return leido;
 }
 
-// What cannot be understood of these sections is no reason to refuse the schematic.
+// What is not understood of these sections is no reason to refuse the schematic; it is told.
 void LeeSecciones(lectorArchivo& lector, EsquemaLeido& leido) {
+    // Absolute, so that the picture's path is whole wherever the schematic is saved to.
+    lector.NombreArchivo(std::filesystem::absolute(lector.NombreArchivo()).string());
+    if (const auto textos = lector.LeeImagenFondo()) {
+        leido.imagen = ImagenDeTextos(*textos);
+        if (static_cast<std::size_t>(textos->Count()) < HIJOS_DE_IMAGEN.size()) {
+            leido.problemas += "\r\nLa sección ImagenFondo está incompleta";
+        }
+    }
+    const auto ajustes = lector.LeeConfiguracion();
+    if (!ajustes || ajustes->Count() == 0) return;
     try {
-        if (const auto textos = lector.LeeImagenFondo()) leido.imagen = ImagenDeTextos(*textos);
-        const auto ajustes = lector.LeeConfiguracion();
-        if (ajustes && ajustes->Count() > 0)
-            leido.bMostrarLineasOcultas = Variante(ajustes->Item(1)).Booleano();
-    } catch (const Fallo& fallo) {
-        leido.problemas += "\r\nUna sección del archivo no se entiende: " + fallo.Description();
+        leido.bMostrarLineasOcultas = Variante(ajustes->Item(1)).Booleano();
+    } catch (const Fallo&) {
+        leido.problemas += "\r\nNo se entiende el valor de VerLineasSecundarias: " + ajustes->Item(1);
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "Carga.h"
 #include "control/Exportacion.h"
+#include "model/Verificador.h"
 #include "platform/Numeros.h"
 #include "session/Extension.h"
 
@@ -15,7 +16,7 @@ namespace zel {
 
 namespace {
 
-constexpr int MAL_USO = 1;
+constexpr int NO_HECHO = 3;
 constexpr int CON_HALLAZGOS = 1;
 constexpr int ILEGIBLE = 2;
 
@@ -62,9 +63,19 @@ void EscribeHallazgo(const HallazgoIntegridad& hallazgo) {
 int Verifica(const QString& entrada, const QString& salida) {
     const EsquemaLeido leido = LeeODilo(entrada);
     if (!leido.elementos) return ILEGIBLE;
+    if (!leido.problemas.empty()) {
+        std::cout << "Al leer faltaban datos o se repetían:\n";
+        EscribeProblemas(leido.problemas);
+    }
     const bool corrige = !salida.isEmpty();
     std::vector<HallazgoIntegridad> hallazgos;
-    const std::int16_t resultado = leido.elementos->VerificaIntegridad(corrige, &hallazgos);
+    try {
+        leido.elementos->VerificaIntegridad(corrige, &hallazgos);
+    } catch (const Error& error) {
+        std::cerr << "zelvisor: la verificación no ha podido acabar o escribir Integridad.log: "
+                  << error.Description() << '\n';
+        if (hallazgos.empty()) return NO_HECHO;
+    }
     if (hallazgos.empty()) {
         std::cout << "El esquema es íntegro: " << leido.elementos->Count() << " elementos.\n";
     } else {
@@ -73,9 +84,10 @@ int Verifica(const QString& entrada, const QString& salida) {
             EscribeHallazgo(hallazgo);
     }
     if (corrige) {
-        if (!GuardaODilo(leido, salida)) return MAL_USO;
-        std::cout << (resultado == 0 ? "Todo ha quedado corregido en \""
-                                     : "Lo que se podía corregir lo está en \"")
+        if (!GuardaODilo(leido, salida)) return NO_HECHO;
+        // Not all that is found can be corrected: negative numbers stay, for one.
+        const bool sano = Verificador(*leido.elementos, false, false).Verifica() == 0;
+        std::cout << (sano ? "El esquema, ya íntegro, está en \"" : "Lo que se podía corregir lo está en \"")
                   << salida.toStdString() << "\".\n";
     }
     return hallazgos.empty() ? 0 : CON_HALLAZGOS;
@@ -88,7 +100,7 @@ int Convierte(const QString& entrada, const QString& salida) {
         std::cout << "Al leer faltaban datos o se repetían:\n";
         EscribeProblemas(leido.problemas);
     }
-    return GuardaODilo(leido, salida) ? 0 : MAL_USO;
+    return GuardaODilo(leido, salida) ? 0 : NO_HECHO;
 }
 
 int Exporta(const QString& entrada, const QString& salida, const QString& ancho) {
@@ -97,12 +109,12 @@ int Exporta(const QString& entrada, const QString& salida, const QString& ancho)
     if (!esNumero || pixeles < ANCHO_MINIMO_DE_IMAGEN || pixeles > LADO_MAXIMO_DE_IMAGEN) {
         std::cerr << "zelvisor: el ancho ha de ser un número de píxeles entre " << ANCHO_MINIMO_DE_IMAGEN
                   << " y " << LADO_MAXIMO_DE_IMAGEN << ".\n";
-        return MAL_USO;
+        return NO_HECHO;
     }
     if (!salida.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive)) {
         std::cerr
             << "zelvisor: la imagen se guarda en formato PNG; dé a la salida un nombre que acabe en .png.\n";
-        return MAL_USO;
+        return NO_HECHO;
     }
     const EsquemaLeido leido = LeeODilo(entrada);
     if (!leido.elementos) return ILEGIBLE;
@@ -112,7 +124,7 @@ int Exporta(const QString& entrada, const QString& salida, const QString& ancho)
     if (!escritor.write(imagen)) {
         std::cerr << "zelvisor: no se puede escribir \"" << salida.toStdString()
                   << "\". Compruebe que la carpeta existe y que puede escribir en ella.\n";
-        return MAL_USO;
+        return NO_HECHO;
     }
     for (const QString& fallo : fallos)
         std::cerr << "zelvisor: no se ha podido dibujar: " << fallo.toStdString() << '\n';

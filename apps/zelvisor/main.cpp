@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QTranslator>
 #include <algorithm>
+#include <csignal>
 #include <cstring>
 #include <initializer_list>
 #include <iostream>
@@ -62,25 +63,33 @@ struct Peticion {
     QString corregir;
 };
 
-int Ordena(const Peticion& p) {
-    const auto es = [&](const char* orden, qsizetype cuantos) {
-        return p.orden == QLatin1String(orden) && p.archivos.size() == cuantos;
-    };
-    if (es("exportar", 2)) return zel::Exporta(p.archivos[0], p.archivos[1], p.ancho);
-    if (es("info", 1)) return zel::Informa(p.archivos[0]);
-    if (es("verificar", 1)) return zel::Verifica(p.archivos[0], p.corregir);
-    if (es("convertir", 2)) return zel::Convierte(p.archivos[0], p.archivos[1]);
+int DiUso() {
     std::cerr << "zelvisor: faltan o sobran argumentos. Uso:\n"
                  "  zelvisor exportar ENTRADA SALIDA.png [--ancho PIXELS]\n"
                  "  zelvisor info ENTRADA\n"
                  "  zelvisor verificar ENTRADA [--corregir SALIDA]\n"
                  "  zelvisor convertir ENTRADA SALIDA.xml\n";
-    return 1;
+    return 3;
+}
+
+int Ordena(const Peticion& p) {
+    const auto es = [&](const char* orden, qsizetype cuantos) {
+        return p.orden == QLatin1String(orden) && p.archivos.size() == cuantos;
+    };
+    const bool conCorregir = !p.corregir.isNull();
+    if (conCorregir && (p.corregir.isEmpty() || p.orden != QLatin1String("verificar"))) return DiUso();
+    if (es("exportar", 2)) return zel::Exporta(p.archivos[0], p.archivos[1], p.ancho);
+    if (es("info", 1)) return zel::Informa(p.archivos[0]);
+    if (es("verificar", 1)) return zel::Verifica(p.archivos[0], p.corregir);
+    if (es("convertir", 2)) return zel::Convierte(p.archivos[0], p.archivos[1]);
+    return DiUso();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    // A file-size limit is a failure to write like any other, to be told and tidied up after.
+    std::signal(SIGXFSZ, SIG_IGN);
     // The orders draw without a display.
     if (EsOrden(argc, argv) || PideAyuda(argc, argv)) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -124,7 +133,9 @@ int main(int argc, char** argv) {
     try {
         if (EsOrden(argc, argv)) {
             QStringList archivos = argumentos.mid(1);
-            archivos = ConCarpetaEscribible(archivos << lector.value(QStringLiteral("corregir")));
+            archivos = ConCarpetaEscribible(archivos << (lector.isSet(QStringLiteral("corregir"))
+                                                             ? lector.value(QStringLiteral("corregir"))
+                                                             : QString()));
             const QString corregir = archivos.takeLast();
             return Ordena({argumentos.value(0), archivos, lector.value(QStringLiteral("ancho")), corregir});
         }
@@ -136,6 +147,6 @@ int main(int argc, char** argv) {
         return QApplication::exec();
     } catch (const std::exception& fallo) {
         std::cerr << "zelvisor: " << fallo.what() << '\n';
-        return 1;
+        return 3;
     }
 }

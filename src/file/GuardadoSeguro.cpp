@@ -18,21 +18,21 @@ double Numero(std::string texto) {
 }
 
 // The copy of a picture from another folder that is to stand beside the schematic: made before the schematic
-// is saved, put in place after. A picture that cannot be copied stays where it is.
+// is saved, put in place after. Of a picture that cannot be copied the schematic keeps the name all the same,
+// with its place and size.
 class CopiaDeImagen {
   public:
-    CopiaDeImagen(const std::string& imagen, const std::string& carpeta) : ruta_(imagen) {
-        const RutaPartida partes = ParteRuta(imagen);
-        if (partes.carpeta.empty() || partes.carpeta == carpeta) return;
+    CopiaDeImagen(const std::string& imagen, const std::string& carpeta) : nombre_(ParteRuta(imagen).nombre) {
+        // A bare name stands beside the schematic already.
+        if (nombre_ == imagen) return;
         try {
-            copia_.emplace(carpeta + partes.nombre, imagen);
-            ruta_ = carpeta + partes.nombre;
+            copia_.emplace(carpeta + nombre_, imagen);
         } catch (const Fallo&) {
             copia_.reset();
         }
     }
-    // The path to write in the schematic.
-    const std::string& Ruta() const noexcept { return ruta_; }
+    // What the schematic stores.
+    const std::string& Nombre() const noexcept { return nombre_; }
     void Confirma() noexcept {
         try {
             if (copia_) copia_->Confirma();
@@ -42,17 +42,28 @@ class CopiaDeImagen {
     }
 
   private:
-    std::string ruta_;
+    std::string nombre_;
     std::optional<CopiaDeArchivo> copia_;
 };
+
+bool Bandera(const std::string& texto) noexcept {
+    try {
+        return Variante(texto).Booleano();
+    } catch (...) {
+        return false;
+    }
+}
 
 }  // namespace
 
 std::optional<ImagenGuardada> ImagenDeTextos(const Coleccion<std::string>& textos) {
-    if (static_cast<std::size_t>(textos.Count()) < HIJOS_DE_IMAGEN.size()) return std::nullopt;
-    return ImagenGuardada{textos.Item("Archivo"),    Numero(textos.Item("X0")),
-                          Numero(textos.Item("Y0")), Numero(textos.Item("LX")),
-                          Numero(textos.Item("LY")), Variante(textos.Item("Oculta")).Booleano()};
+    const auto texto = [&](const char* hijo) {
+        const std::string* encontrado = textos.Busca(hijo);
+        return encontrado ? *encontrado : std::string();
+    };
+    if (!textos.Busca("Archivo")) return std::nullopt;
+    return ImagenGuardada{texto("Archivo"),    Numero(texto("X0")), Numero(texto("Y0")),
+                          Numero(texto("LX")), Numero(texto("LY")), Bandera(texto("Oculta"))};
 }
 
 void GuardaConSeguridad(const std::string& ruta, const std::shared_ptr<Elementos>& elementos,
@@ -64,12 +75,13 @@ void GuardaConSeguridad(const std::string& ruta, const std::shared_ptr<Elementos
     escritor.Coleccion(elementos);
     if (!escritor.GuardaEsquema()) {
         throw Fallo(5, "El elemento en la posición " + std::to_string(escritor.PosicionSinGuardar()) +
-                           " no se puede guardar: su tipo no se conoce o le falta un trazado");
+                           " no se puede guardar: su tipo no se conoce, le falta un trazado o tiene un valor "
+                           "que no es un número");
     }
     std::optional<CopiaDeImagen> copia;
     if (imagen) {
         copia.emplace(imagen->Archivo, ParteRuta(reemplazo.Temporal()).carpeta);
-        escritor.EscribeImagenFondo(copia->Ruta(), imagen->X0, imagen->Y0, imagen->LX, imagen->LY,
+        escritor.EscribeImagenFondo(copia->Nombre(), imagen->X0, imagen->Y0, imagen->LX, imagen->LY,
                                     imagen->Oculta);
     }
     escritor.EscribeConfiguracion(bMostrarLineasOcultas);

@@ -18,8 +18,8 @@ struct ImagenGuardada {
     bool Oculta = false;
 };
 
-// From the texts of the file's section; nothing when one of the six is missing. Numbers are read with either
-// decimal sign. Fails with 13 when the flag is none.
+// From the texts of the file's section, numbers with either decimal sign; nothing when it names no picture.
+// What is missing or not understood is 0 and not hidden.
 std::optional<ImagenGuardada> ImagenDeTextos(const Coleccion<std::string>& textos);
 
 // Saves a schematic in one step: at any moment the file holds all of the old schematic or all of the new one.

@@ -56,8 +56,9 @@ class lectorArchivo {
     // holds until all is done saves through GuardaConSeguridad.
 
     // Begins a document with every element of the collection. False when an element cannot be written (a
-    // kind without container, a missing trace); those before it are in the document, and
-    // PosicionSinGuardar() tells which it was. A file that cannot be written is the platform's failure.
+    // kind without container, a missing trace, a value that is no number); those before it are in the
+    // document, and PosicionSinGuardar() tells which it was. A file that cannot be written is the platform's
+    // failure.
     bool GuardaEsquema();
     std::int32_t PosicionSinGuardar() const noexcept { return posicionSinGuardar_; }
     // The picture's path, its place and size, and whether it is hidden. A picture of another folder is

@@ -1,6 +1,9 @@
 // The writing half of lectorArchivo, and the sections beside the elements.
 
+#include <algorithm>
 #include <array>
+#include <cmath>
+#include <initializer_list>
 #include <vector>
 
 #include "file/Conversion.h"
@@ -72,8 +75,22 @@ xmlNode* BuscaPrimero(const DocumentoXml& documento, xmlNode* cima, const char* 
     return nodo;
 }
 
+bool SonNumeros(std::initializer_list<float> valores) noexcept {
+    return std::all_of(valores.begin(), valores.end(), [](float v) { return std::isfinite(v); });
+}
+
+bool SonNumeros(const Puntos& trazado) noexcept {
+    return std::all_of(trazado.begin(), trazado.end(), [](const auto& p) {
+        return SonNumeros({p->XPos(), p->YPos()});
+    });
+}
+
 bool SePuedeGuardar(const Elemento& e) noexcept {
     if (!TipoConocido(e.Tipo())) return false;
+    if (!SonNumeros({e.XPos(), e.YPos(), e.EtiquetaPosX(), e.EtiquetaPosY(), e.EtiquetaGiro(), e.Valor()}))
+        return false;
+    if (EsLineal(e.Tipo()) && e.Trazado() && !SonNumeros(*e.Trazado())) return false;
+    if (e.Tipo() == ctCentralHidroelectrica && e.Trazado2() && !SonNumeros(*e.Trazado2())) return false;
     if (EsLineal(e.Tipo()) && !e.Trazado()) return false;
     return e.Tipo() != ctCentralHidroelectrica || e.Trazado2();
 }
@@ -221,7 +238,7 @@ void lectorArchivo::EscribeImagenFondo(const std::string& archivo, double X0, do
         std::string guardado = archivo;
         if (TieneCarpeta(archivo)) {
             const RutaPartida partes = ParteRuta(archivo);
-            const std::string carpeta = ParteRuta(nombreArchivo_).carpeta;
+            const std::string carpeta = ParteRuta(SinEnlaces(nombreArchivo_)).carpeta;
             if (partes.carpeta != carpeta) CopiaArchivo(archivo, carpeta + partes.nombre);
             guardado = partes.nombre;
         }

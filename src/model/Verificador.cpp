@@ -296,6 +296,7 @@ void Verificador::VerificaRepetidos() {
     codigos_ = deCodigo.HayRepetidos();
     numeros_ = numeros_ || deNumero.HayRepetidos();
     if (!codigos_ && !deNumero.HayRepetidos()) return;
+    if (corrige_ && !conHallazgos_) return;
     std::vector<Elemento*> todos;
     for (const auto& e : elementos_)
         todos.push_back(e.get());
@@ -376,7 +377,7 @@ void Verificador::VerificaConexionesSecundarias(const Sitio& s) {
     if (e.ConecSec2() != -1 && e.ConecSec1() == -1) {
         e.ConecSec1(e.ConecSec2());
         e.ConecSec2(-1);
-        if (corrige_) Encontrado(s, "ConecSec2 sin ConecSec1", "pasada a ConecSec1");
+        Encontrado(s, "ConecSec2 sin ConecSec1", "pasada a ConecSec1");
     } else if (e.ConecSec2() != -1) {
         VerificaMutua(s, e.ConecSec2(), "ConecSec2");
     }

@@ -74,9 +74,14 @@ void ReemplazoDeArchivo::Confirma() {
         if (*fd < 0) FallaElSistema();
         struct stat antes {};
         if (stat(destino_.c_str(), &antes) == 0) {
-            // The owner can be kept only by who may give files away.
-            if (fchown(*fd, antes.st_uid, antes.st_gid) != 0) errno = 0;
-            if (fchmod(*fd, antes.st_mode & 07777) != 0) FallaElSistema();
+            mode_t permisos = antes.st_mode & 07777;
+            // The owner can be kept only by who may give files away; without the group, what the group
+            // could do would go to another one.
+            if (fchown(*fd, antes.st_uid, antes.st_gid) != 0 &&
+                fchown(*fd, static_cast<uid_t>(-1), antes.st_gid) != 0) {
+                permisos &= ~static_cast<mode_t>(S_IRWXG);
+            }
+            if (fchmod(*fd, permisos) != 0) FallaElSistema();
         } else if (fchmod(*fd, PermisosNuevos()) != 0) {
             FallaElSistema();
         }

@@ -11,7 +11,8 @@ namespace zel {
 class ReemplazoDeArchivo {
   public:
     // Creates the temporary. Fails with 70 when the file or its folder cannot be written, 76 when there is no
-    // such folder, 75 when the name is that of a folder or a device.
+    // such folder, 75 when the name is that of a folder or a device,
+    // or else with the number of the system's reason.
     explicit ReemplazoDeArchivo(const std::string& destino);
     ReemplazoDeArchivo(const ReemplazoDeArchivo&) = delete;
     ReemplazoDeArchivo& operator=(const ReemplazoDeArchivo&) = delete;

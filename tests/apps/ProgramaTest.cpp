@@ -90,7 +90,8 @@ TEST(Programa, ConvertirSavesWhatItReadsAndVerificarTellsWhatIsWrong) {
     EXPECT_TRUE(Contiene(corregido.texto, "-7 -> ColorIcono puesto a -1")) << corregido.texto;
     EXPECT_EQ(LeeArchivo("malo.xml"), sano);
     EXPECT_EQ(Ejecuta("verificar nada.xml").codigo, 2);
-    EXPECT_EQ(Ejecuta("convertir a.xml no/hay.xml").codigo, 1);
+    EXPECT_EQ(Ejecuta("convertir a.xml no/hay.xml").codigo, 3);
+    EXPECT_EQ(Ejecuta("convertir a.xml c.xml --corregir d.xml").codigo, 3);
 }
 
 TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
@@ -104,12 +105,12 @@ TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
         int codigo;
         std::string texto;
     } casos[] = {
-        {"info", 1, "Uso:"},
-        {"exportar " + CUENCA, 1, "Uso:"},
-        {"exportar " + CUENCA + " salida.png --ancho doce", 1, "número de píxeles"},
-        {"exportar " + CUENCA + " salida.png --ancho 16001", 1, "número de píxeles"},
-        {"exportar " + CUENCA + " salida.jpg", 1, ".png"},
-        {"exportar " + CUENCA + " no/hay/salida.png", 1, "no se puede escribir"},
+        {"info", 3, "Uso:"},
+        {"exportar " + CUENCA, 3, "Uso:"},
+        {"exportar " + CUENCA + " salida.png --ancho doce", 3, "número de píxeles"},
+        {"exportar " + CUENCA + " salida.png --ancho 16001", 3, "número de píxeles"},
+        {"exportar " + CUENCA + " salida.jpg", 3, ".png"},
+        {"exportar " + CUENCA + " no/hay/salida.png", 3, "no se puede escribir"},
         {"exportar nada.xml salida.png", 2, "No se ha encontrado el archivo"},
         {"info .", 2, "no se puede leer \".\""},
         {"info " + roto, 2, "no está bien formado: en la línea 1, una etiqueta está sin cerrar"},
