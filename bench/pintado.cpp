@@ -8,7 +8,7 @@
 
 #include "EscenaQt.h"
 #include "GeneraRed.h"
-#include "control/Panel.h"
+#include "control/PanelDibujo.h"
 #include "drawing/Etiquetas.h"
 #include "drawing/Fuente.h"
 #include "drawing/Pintor.h"
@@ -70,7 +70,7 @@ double ParteDelArea(const benchmark::State& estado) {
 
 void Pintor(benchmark::State& estado) {
     const Encuadre encuadre(ParteDelArea(estado));
-    zel::Panel panel;
+    zel::PanelDibujo panel;
     panel.resize(PANEL);
     panel.show();
     QApplication::processEvents();

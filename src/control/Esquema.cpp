@@ -3,9 +3,10 @@
 #include <QResizeEvent>
 #include <QShowEvent>
 
-#include "control/Panel.h"
+#include "control/PanelDibujo.h"
 #include "drawing/Pintor.h"
 #include "model/modErrorHandling.h"
+#include "session/Ajustes.h"
 #include "session/Vista.h"
 
 namespace zel {
@@ -13,14 +14,14 @@ namespace zel {
 struct Esquema::Partes : public Anfitrion {
     explicit Partes(Esquema& dueno)
         : esquema(dueno),
-          panel(new Panel(&dueno)),
+          panel(new PanelDibujo(&dueno)),
           refresco(panel->lienzo()),
           avisos(trabajo, refresco),
           vista(panel->lienzo(), documento, trabajo, refresco, avisos, *this) {
         panel->lienzo().AlRefrescar([this] { Pinta(); });
         panel->setGeometry(esquema.rect());
         Dispone();
-        QObject::connect(panel, &Panel::Redimensionado, &esquema,
+        QObject::connect(panel, &PanelDibujo::Redimensionado, &esquema,
                          [this] { EnEvento([this] { Dispone(); }); });
     }
 
@@ -46,12 +47,7 @@ struct Esquema::Partes : public Anfitrion {
     }
 
     void Pinta() {
-        AjustesDibujo ajustes;
-        ajustes.iEstado = trabajo.iEstado;
-        ajustes.iTipoHerramienta = trabajo.iTipoHerramienta;
-        ajustes.EscalaDibujo = vista.EscalaDibujo();
-        ajustes.bVistaActualizada = vista.bVistaActualizada();
-        ajustes.bMostrarLineasOcultas = documento.bMostrarLineasOcultas;
+        const AjustesDibujo ajustes = AjustesDe(trabajo, documento, vista);
         QStringList nuevos;
         for (const auto& descripcion :
              PintaEsquema(panel->lienzo(), ajustes, *documento.colElementos, *documento.colElementos)) {
@@ -64,7 +60,7 @@ struct Esquema::Partes : public Anfitrion {
     }
 
     Esquema& esquema;
-    Panel* panel;
+    PanelDibujo* panel;
     Documento documento;
     Trabajo trabajo;
     Refresco refresco;

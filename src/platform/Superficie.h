@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Imagen.h"
+
 namespace zel {
 
 struct PuntoXY {
@@ -113,6 +115,10 @@ class Superficie {
     virtual void Circle(PuntoXY centro, float radio, double inicio, double fin) = 0;
     // One dot of one pixel.
     virtual void PSet(PuntoXY punto, std::int32_t color) = 0;
+
+    // A picture from its top left corner, that wide and high; with Y growing upwards a negative height reaches
+    // down.
+    virtual void PaintPicture(const Imagen& imagen, PuntoXY esquina, float ancho, float alto) = 0;
 
     // Text in ForeColor with its top left corner at (CurrentX, CurrentY); DrawMode does not affect it.
     virtual void Print(std::string_view texto) = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <memory>
 
 #include "model/Elementos.h"
@@ -10,6 +12,18 @@ namespace zel {
 struct Documento {
     std::shared_ptr<Elementos> colElementos = std::make_shared<Elementos>();
     bool bMostrarLineasOcultas = true;
+    bool bMostrarEtiquetas = true;
+    bool bHabidoCambios = false;  // since it was last opened or saved
+
+    // The highest number on the screen of each kind; reservoirs share the nodes'.
+    std::array<std::int16_t, NUMERO_DE_TIPOS> UltimoKeyPant{};
+    std::int32_t UltimoCodSIG = 0;  // the highest code
+
+    // The counter of a kind. Fails with 9 for a kind outside 0 to 15.
+    std::int16_t& KeyPantDe(TipoElemento tipo) {
+        if (!TipoConocido(tipo)) throw Fallo(9);
+        return UltimoKeyPant[static_cast<std::size_t>(tipo == ctEmbalse ? ctNudo : tipo)];
+    }
 };
 
 }  // namespace zel

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "model/Elementos.h"
 
@@ -10,8 +11,24 @@ namespace zel {
 // What the user has in hand: the interaction state and the objects that live while a gesture lasts.
 struct Trabajo {
     std::int32_t iEstado = 5;                  // "Preparado"
+    std::int32_t iEstadoAnterior = 5;          // before the last call of Estado
     TipoElemento iTipoHerramienta = ctFlecha;  // the kind being created
-    std::shared_ptr<Puntos> trazadoTemporal;   // a temporary outline
+
+    std::shared_ptr<Elemento> elemSeleccionado;  // a member of the schematic
+    std::shared_ptr<Puntos> trazadoNuevo;        // the trace being drawn
+    std::shared_ptr<Puntos> trazadoNuevo2;       // a hydro plant's, behind its symbol
+    std::shared_ptr<Punto> puntoReferencia;      // where a drag began or is; the plant being drawn
+    std::shared_ptr<Puntos> curvaSeleccion;      // the lasso
+    std::shared_ptr<Elementos> elemSubsistema;   // copies of the elements chosen together
+    std::shared_ptr<Puntos> trazadoTemporal;     // a temporary outline
+    std::vector<std::shared_ptr<Puntos>> colConduccionesMovidas;  // trace pieces that follow a drag
+
+    // What the last search of the element under a point has found; see Localizador.
+    std::int16_t iParteEncontrada = 0;
+    bool bCuerpoElemento = false;
+    std::int16_t iSegmentoEncontrado = 0;
+
+    bool bDepurarEstado = false;  // the status bar shows the state instead of the mouse position
 };
 
 }  // namespace zel

@@ -6,7 +6,7 @@
 #include <QColor>
 #include <map>
 
-#include "control/Panel.h"
+#include "control/PanelDibujo.h"
 #include "model/modErrorHandling.h"
 #include "support/DialogosGuion.h"
 
@@ -30,7 +30,7 @@ class EsquemaEnVentana : public testing::Test {
         esquema.show();
         QApplication::processEvents();
     }
-    Lienzo& Dibujo() { return esquema.findChild<Panel*>(QStringLiteral("Panel"))->lienzo(); }
+    Lienzo& Dibujo() { return esquema.findChild<PanelDibujo*>(QStringLiteral("Panel"))->lienzo(); }
     bool SeVe(float x, float y) {
         const QImage& imagen = Dibujo().Imagen();
         const int cx = qRound((x - Dibujo().ScaleLeft()) / Dibujo().ScaleWidth() * imagen.width());
@@ -81,7 +81,7 @@ TEST(Esquema, AFitAskedForBeforeItIsShownHoldsWhenItIs) {
     esquema.resize(1200, 900);
     esquema.show();
     QApplication::processEvents();
-    const Lienzo& dibujo = esquema.findChild<Panel*>()->lienzo();
+    const Lienzo& dibujo = esquema.findChild<PanelDibujo*>()->lienzo();
     EXPECT_LT(dibujo.ScaleLeft(), 0);
     EXPECT_GT(dibujo.ScaleTop() + dibujo.ScaleHeight(), -1000)
         << "not fitted to the size that it is shown in";
@@ -95,7 +95,7 @@ TEST(Esquema, AFitAskedForBeforeItIsShownHoldsWhenItIs) {
     pequeno.resize(300, 480);
     pequeno.show();
     QApplication::processEvents();
-    EXPECT_NEAR(pequeno.findChild<Panel*>()->lienzo().ScaleWidth(), 40.04, 0.1);
+    EXPECT_NEAR(pequeno.findChild<PanelDibujo*>()->lienzo().ScaleWidth(), 40.04, 0.1);
 }
 
 TEST_F(EsquemaEnVentana, ASchematicBeyondTheWorldDoesNotSpoilTheView) {

@@ -88,7 +88,7 @@ inline std::string Cifra(double valor, double decimales = 100) {
 
 // What was drawn, in words: "linea 1,2 3,4; circulo 1,2 r4; arco 1,2 r4 0..3.1416; texto 1,2 7".
 inline std::string Relato(const std::vector<Trazo>& trazos) {
-    static const char* const NOMBRES[] = {"linea", "caja", "circulo", "arco", "punto", "texto"};
+    static const char* const NOMBRES[] = {"linea", "caja", "circulo", "arco", "punto", "texto", "imagen"};
     std::string relato;
     for (const Trazo& t : trazos) {
         relato += (relato.empty() ? "" : "; ") + std::string(NOMBRES[static_cast<int>(t.que)]);

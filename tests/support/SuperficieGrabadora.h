@@ -11,7 +11,7 @@ namespace zel::pruebas {
 // points taken as hundredths of the view's width, every character is half as wide as the font is high.
 class SuperficieGrabadora : public Superficie {
   public:
-    enum class Que { Linea, Caja, Circulo, Arco, Punto, Texto };
+    enum class Que { Linea, Caja, Circulo, Arco, Punto, Texto, Imagen };
     struct Trazo {
         Que que;
         std::vector<PuntoXY> puntos;  // a chain; two corners; a centre; a dot; a text's top left corner
@@ -71,6 +71,9 @@ class SuperficieGrabadora : public Superficie {
     }
     void PSet(PuntoXY p, std::int32_t color) override {
         trazos.push_back({Que::Punto, {p}, 0, 0, 0, pluma(), 0, {}, color});
+    }
+    void PaintPicture(const zel::Imagen&, PuntoXY p, float ancho, float alto) override {
+        trazos.push_back({Que::Imagen, {p, {p.X + ancho, p.Y + alto}}, 0, 0, 0, pluma(), 0, {}, 0});
     }
     void Print(std::string_view texto) override {
         trazos.push_back(

@@ -7,6 +7,7 @@
 #include <numbers>
 
 #include "platform/Fallo.h"
+#include "platform/qt/ImagenQt.h"
 
 namespace zel {
 
@@ -300,6 +301,25 @@ void Lienzo::AsientaPuntos() {
     }
     puntos_.clear();
     hayPlumaPuesta_ = false;
+}
+
+void Lienzo::PaintPicture(const zel::Imagen& imagen, PuntoXY esquina, float ancho, float alto) {
+    const auto* datos = dynamic_cast<const ImagenQt*>(&imagen);
+    if (!datos) throw Fallo(13);
+    const QRectF destino(EnPixeles(esquina), EnPixeles({esquina.X + ancho, esquina.Y + alto}));
+    const QRectF visible = destino.normalized() & QRectF(imagen_.rect());
+    if (visible.isEmpty()) return;
+    AsientaPuntos();
+    hayPlumaPuesta_ = false;
+    // Only the part in sight is scaled: the whole could be larger than any image.
+    const auto origen = [&](QPointF p) {
+        return QPointF((p.x() - destino.left()) / destino.width() * imagen.Ancho(),
+                       (p.y() - destino.top()) / destino.height() * imagen.Alto());
+    };
+    pintor_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    pintor_.setRenderHint(QPainter::SmoothPixmapTransform);
+    pintor_.drawImage(visible, datos->Datos(),
+                      QRectF(origen(visible.topLeft()), origen(visible.bottomRight())).normalized());
 }
 
 void Lienzo::Cls() {

@@ -44,6 +44,7 @@ class Lienzo : public Superficie {
     void Circle(PuntoXY centro, float radio) override;
     void Circle(PuntoXY centro, float radio, double inicio, double fin) override;
     void PSet(PuntoXY punto, std::int32_t color) override;
+    void PaintPicture(const zel::Imagen& imagen, PuntoXY esquina, float ancho, float alto) override;
     void Print(std::string_view texto) override;
     float TextWidth(std::string_view texto) override;
     float TextHeight(std::string_view texto) override;

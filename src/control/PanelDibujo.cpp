@@ -1,4 +1,4 @@
-#include "control/Panel.h"
+#include "control/PanelDibujo.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -11,19 +11,19 @@ namespace {
 constexpr double MM_POR_PULGADA = 25.4;
 }
 
-Panel::Panel(QWidget* padre) : QWidget(padre) {
+PanelDibujo::PanelDibujo(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("Panel"));
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-float Panel::AnchoMm() const {
+float PanelDibujo::AnchoMm() const {
     return static_cast<float>(width() * MM_POR_PULGADA / logicalDpiX());
 }
-float Panel::AltoMm() const {
+float PanelDibujo::AltoMm() const {
     return static_cast<float>(height() * MM_POR_PULGADA / logicalDpiY());
 }
 
-void Panel::paintEvent(QPaintEvent* evento) {
+void PanelDibujo::paintEvent(QPaintEvent* evento) {
     const QImage& imagen = lienzo_.Imagen();
     const double relacion = lienzo_.Relacion();
     QPainter pintor(this);
@@ -33,12 +33,12 @@ void Panel::paintEvent(QPaintEvent* evento) {
     if (relacion != devicePixelRatioF()) QTimer::singleShot(0, this, [this] { PreparaLienzo(); });
 }
 
-void Panel::resizeEvent(QResizeEvent* evento) {
+void PanelDibujo::resizeEvent(QResizeEvent* evento) {
     QWidget::resizeEvent(evento);
     PreparaLienzo();
 }
 
-void Panel::PreparaLienzo() {
+void PanelDibujo::PreparaLienzo() {
     try {
         const double relacion = devicePixelRatioF();
         lienzo_.Redimensiona((QSizeF(size()) * relacion).toSize(), relacion, logicalDpiX());

@@ -9,10 +9,10 @@ namespace zel {
 
 // The widget that shows the drawing surface. Drawing goes to the surface; an expose only copies its image,
 // so that it never disturbs what is being drawn.
-class Panel : public QWidget {
+class PanelDibujo : public QWidget {
     Q_OBJECT
   public:
-    explicit Panel(QWidget* padre = nullptr);
+    explicit PanelDibujo(QWidget* padre = nullptr);
 
     // What its Refresh does is up to who owns the panel.
     Lienzo& lienzo() noexcept { return lienzo_; }
