@@ -76,11 +76,39 @@ void Elemento::CopiaPropiedades(const Elemento& Origen) {
 }
 
 void Elemento::Tamanyo(float valor) noexcept {
-    tamanyo_ = valor > TAMANYO_MAXIMO ? TAMANYO_MAXIMO : valor > TAMANYO_MINIMO ? valor : TAMANYO_MINIMO;
+    Cambia(tamanyo_, valor > TAMANYO_MAXIMO   ? TAMANYO_MAXIMO
+                     : valor > TAMANYO_MINIMO ? valor
+                                              : TAMANYO_MINIMO);
 }
 
 void Elemento::EtiquetaTamanyo(float valor) noexcept {
-    if (ETIQUETA_MINIMA <= valor && valor <= ETIQUETA_MAXIMA) etiquetaTamanyo_ = valor;
+    if (ETIQUETA_MINIMA <= valor && valor <= ETIQUETA_MAXIMA) Cambia(etiquetaTamanyo_, valor);
+}
+
+void Elemento::Entra(DiarioDeCambios& diario, std::uint64_t orden) noexcept {
+    pertenencia_.diario = &diario;
+    pertenencia_.orden = orden;
+    pertenencia_.uso.Empieza(trazado_.get(), *this, diario);
+    pertenencia_.uso2.Empieza(trazado2_.get(), *this, diario);
+    diario.Anota(*this);
+}
+
+void Elemento::Sale() noexcept {
+    pertenencia_.diario->Anota(*this, true);
+    pertenencia_.diario = nullptr;
+    pertenencia_.orden = 0;
+    pertenencia_.uso.Termina();
+    pertenencia_.uso2.Termina();
+}
+
+void Elemento::CambiaTrazado(std::shared_ptr<Puntos>& trazado, UsoDeTrazado& uso,
+                             std::shared_ptr<Puntos> valor) noexcept {
+    if (trazado == valor) return;
+    uso.Termina();
+    trazado = std::move(valor);
+    if (!pertenencia_.diario) return;
+    uso.Empieza(trazado.get(), *this, *pertenencia_.diario);
+    pertenencia_.diario->Anota(*this);
 }
 
 std::span<const Propiedad<Elemento>> Elemento::Propiedades() noexcept {

@@ -1,5 +1,7 @@
 #include "model/Elementos.h"
 
+#include <algorithm>
+
 #include "model/Verificador.h"
 #include "platform/Archivos.h"
 #include "platform/Dialogos.h"
@@ -11,16 +13,33 @@ Elementos::Elementos() try {
     LanzaError(TEXTO_LIBRE, "Error inicialización objeto Elementos");
 }
 
+Elementos::~Elementos() {
+    for (const auto& elemento : elementos_)
+        elemento->Sale();
+}
+
+void Elementos::Guarda(const std::shared_ptr<Elemento>& elemento, const std::string& clave) {
+    if (clave.empty()) {
+        elementos_.Add(elemento);
+    } else {
+        elementos_.Add(elemento, clave);
+    }
+    diario_.Limita(Count());
+    elemento->Entra(diario_, ++ultimoOrden_);
+}
+
+void Elementos::Quita(const Variante& posicionOClave) {
+    const std::shared_ptr<Elemento> elemento = elementos_.Item(posicionOClave);
+    elementos_.Remove(posicionOClave);
+    elemento->Sale();
+    diario_.Limita(Count());
+}
+
 template <typename Origen>
 void Elementos::AddCopia(const Origen& origen, const std::optional<Variante>& clave) try {
     auto elemento = std::make_shared<Elemento>();
     elemento->CopiaPropiedades(origen);
-    std::string texto = clave ? clave->Texto() : std::to_string(elemento->gfCodSIG());
-    if (texto.empty()) {
-        elementos_.Add(std::move(elemento));
-    } else {
-        elementos_.Add(std::move(elemento), std::move(texto));
-    }
+    Guarda(elemento, clave ? clave->Texto() : std::to_string(elemento->gfCodSIG()));
 } catch (...) {
     LanzaError(TEXTO_LIBRE, "Error método AddObjetoElemento (Elementos)");
 }
@@ -65,11 +84,7 @@ std::shared_ptr<Elemento> Elementos::Add(
         e->Trazado(std::move(aTrazado));
         if (aTipo == ctCentralHidroelectrica) e->Trazado2(std::move(aTrazado2));
     }
-    if (Identificador.empty()) {
-        elementos_.Add(e);
-    } else {
-        elementos_.Add(e, std::to_string(agfCodSig));
-    }
+    Guarda(e, Identificador.empty() ? std::string() : std::to_string(agfCodSig));
     return e;
 } catch (...) {
     LanzaError(TEXTO_LIBRE, "Error en método Add (Elementos)");
@@ -92,7 +107,17 @@ std::shared_ptr<Elemento> Elementos::ItemCodSIG(std::int32_t codigo) const noexc
     }
 }
 
-void Elementos::Remove(const Variante& vntIndexKey) try { elementos_.Remove(vntIndexKey); } catch (...) {
+bool Elementos::Contiene(const Elemento* elemento) const noexcept {
+    return elemento && elemento->pertenencia_.diario == &diario_;
+}
+
+std::shared_ptr<Elemento> Elementos::Referencia(const Elemento* elemento) const noexcept {
+    if (!Contiene(elemento)) return nullptr;
+    return *std::lower_bound(begin(), end(), elemento->Orden(),
+                             [](const auto& e, std::uint64_t orden) { return e->Orden() < orden; });
+}
+
+void Elementos::Remove(const Variante& vntIndexKey) try { Quita(vntIndexKey); } catch (...) {
     LanzaError(TEXTO_LIBRE, "Error Método Remove (Elementos)");
 }
 
@@ -101,7 +126,7 @@ std::int32_t Elementos::RemoveCodSIG(std::int32_t codigo) try {
     for (const auto& elemento : elementos_) {
         ++posicion;
         if (elemento->gfCodSIG() != codigo) continue;
-        elementos_.Remove(posicion);
+        Quita(posicion);
         return posicion;
     }
     return -1;

@@ -26,6 +26,9 @@ concept ConPosicion = requires(const T& objeto) {
 class Elementos : public Objeto {
   public:
     Elementos();
+    Elementos(const Elementos&) = delete;
+    Elementos& operator=(const Elementos&) = delete;
+    ~Elementos() override;
 
     // Stores a copy of aElemento, never aElemento itself: under the key given, under none when that is an
     // empty text, under the key of its code when no key is given. Raises when the key is taken, and then
@@ -55,6 +58,14 @@ class Elementos : public Objeto {
     std::shared_ptr<Elemento> ItemCodSIG(std::int32_t codigo) const noexcept;
 
     std::int32_t Count() const noexcept { return elementos_.Count(); }
+
+    // Whether the element is one of the collection's own. It may be any that exists, or none.
+    bool Contiene(const Elemento* elemento) const noexcept;
+    // The collection's own reference to the element; empty when it is not one of its own.
+    std::shared_ptr<Elemento> Referencia(const Elemento* elemento) const noexcept;
+
+    // The changes of its elements.
+    const DiarioDeCambios& Diario() const noexcept { return diario_; }
 
     // Removes the element at a position or under a key. Raises when there is none.
     void Remove(const Variante& vntIndexKey);
@@ -90,6 +101,11 @@ class Elementos : public Objeto {
   private:
     template <typename Origen>
     void AddCopia(const Origen& origen, const std::optional<Variante>& clave);
+    void Guarda(const std::shared_ptr<Elemento>& elemento, const std::string& clave);
+    void Quita(const Variante& posicionOClave);
+
+    DiarioDeCambios diario_;
+    std::uint64_t ultimoOrden_ = 0;
 
     Coleccion<std::shared_ptr<Elemento>> elementos_;
 };

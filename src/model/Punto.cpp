@@ -1,5 +1,7 @@
 #include "model/Punto.h"
 
+#include "model/Puntos.h"
+
 namespace zel {
 
 namespace {
@@ -29,6 +31,10 @@ void Punto::CopiaPropiedades(const std::shared_ptr<Punto>& Origen, bool SoloCoor
     LanzaError(
         TEXTO_LIBRE,
         "ErrCopiaPropiedades: hay un error en el método o el argumento que se pasó no es un objeto Punto");
+}
+
+void Punto::AvisaAlTrazado() const noexcept {
+    trazado_->HaCambiado();
 }
 
 std::span<const Propiedad<Punto>> Punto::Propiedades() noexcept {

@@ -23,6 +23,36 @@ Puntos::Puntos() try {
     LanzaError(TEXTO_LIBRE, "ErrInitialize (Puntos)");
 }
 
+Puntos::~Puntos() {
+    while (usos_)
+        usos_->Termina();
+    for (const auto& punto : puntos_)
+        punto->trazado_ = nullptr;
+}
+
+void UsoDeTrazado::Empieza(Puntos* trazado, const Elemento& elemento, DiarioDeCambios& diario) noexcept {
+    if (!trazado) return;
+    trazado_ = trazado;
+    elemento_ = &elemento;
+    diario_ = &diario;
+    siguiente_ = trazado->usos_;
+    if (siguiente_) siguiente_->anterior_ = this;
+    trazado->usos_ = this;
+}
+
+void UsoDeTrazado::Termina() noexcept {
+    if (!trazado_) return;
+    (anterior_ ? anterior_->siguiente_ : trazado_->usos_) = siguiente_;
+    if (siguiente_) siguiente_->anterior_ = anterior_;
+    trazado_ = nullptr;
+    anterior_ = siguiente_ = nullptr;
+}
+
+void Puntos::HaCambiado() const noexcept {
+    for (const UsoDeTrazado* uso = usos_; uso; uso = uso->siguiente_)
+        uso->diario_->Anota(*uso->elemento_);
+}
+
 void Puntos::AddObjetoPunto(const std::shared_ptr<Punto>& aPunto, bool SoloCoordenadas,
                             const std::optional<Variante>& ClaveColeccion) try {
     if (!aPunto) throw Fallo(91);
@@ -34,10 +64,12 @@ void Puntos::AddObjetoPunto(const std::shared_ptr<Punto>& aPunto, bool SoloCoord
         punto->CopiaPropiedades(aPunto, false);
     }
     if (SinClave(ClaveColeccion)) {
-        puntos_.Add(std::move(punto));
+        puntos_.Add(punto);
     } else {
-        puntos_.Add(std::move(punto), Variante(ClaveColeccion->Texto()));
+        puntos_.Add(punto, Variante(ClaveColeccion->Texto()));
     }
+    punto->trazado_ = this;
+    HaCambiado();
 } catch (...) {
     LanzaError(TEXTO_LIBRE, "Error en método AddObjetoPunto");
 }
@@ -50,6 +82,8 @@ std::shared_ptr<Punto> Puntos::Add(float aXPos, float aYPos, float aValor,
     } else {
         puntos_.Add(punto, *aClaveColeccion);
     }
+    punto->trazado_ = this;
+    HaCambiado();
     return punto;
 } catch (...) {
     LanzaError(TEXTO_LIBRE, "Error en método Add (Puntos)");
@@ -61,7 +95,12 @@ std::shared_ptr<Punto> Puntos::Item(const Variante& vntIndexKey) const try {
     LanzaError(TEXTO_LIBRE, "ErrGetItem (Puntos)");
 }
 
-void Puntos::Remove(const Variante& vntIndexKey) try { puntos_.Remove(vntIndexKey); } catch (...) {
+void Puntos::Remove(const Variante& vntIndexKey) try {
+    const std::shared_ptr<Punto> punto = puntos_.Item(vntIndexKey);
+    puntos_.Remove(vntIndexKey);
+    punto->trazado_ = nullptr;
+    HaCambiado();
+} catch (...) {
     LanzaError(TEXTO_LIBRE, "ErrRemove (Puntos)");
 }
 

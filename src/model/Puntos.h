@@ -5,16 +5,42 @@
 #include <optional>
 #include <span>
 
+#include "model/DiarioDeCambios.h"
 #include "model/Punto.h"
 #include "platform/Coleccion.h"
 
 namespace zel {
+
+// That an element of a collection has a trace: what ties the trace to the collection's journal. A trace may
+// be shared by many elements, so each brings its own link of the trace's chain of uses.
+class UsoDeTrazado {
+  public:
+    UsoDeTrazado() = default;
+    UsoDeTrazado(const UsoDeTrazado&) = delete;
+    UsoDeTrazado& operator=(const UsoDeTrazado&) = delete;
+    ~UsoDeTrazado() { Termina(); }
+
+    // Without a trace it does nothing.
+    void Empieza(Puntos* trazado, const Elemento& elemento, DiarioDeCambios& diario) noexcept;
+    void Termina() noexcept;
+
+  private:
+    friend class Puntos;
+    Puntos* trazado_ = nullptr;
+    const Elemento* elemento_ = nullptr;
+    DiarioDeCambios* diario_ = nullptr;
+    UsoDeTrazado* anterior_ = nullptr;
+    UsoDeTrazado* siguiente_ = nullptr;
+};
 
 // A trace: its vertices in drawing order, from the start element towards the end element, positions from 1.
 // A vertex may have a key, unique within the trace without regard to case.
 class Puntos : public Objeto {
   public:
     Puntos();
+    Puntos(const Puntos&) = delete;
+    Puntos& operator=(const Puntos&) = delete;
+    ~Puntos() override;
 
     // Working attributes of the trace while it is edited; the model gives them no meaning and files do not
     // store them.
@@ -52,6 +78,11 @@ class Puntos : public Objeto {
     static std::span<const Propiedad<Puntos>> Propiedades() noexcept;
 
   private:
+    friend class Punto;
+    friend class UsoDeTrazado;
+    void HaCambiado() const noexcept;
+
+    UsoDeTrazado* usos_ = nullptr;
     Coleccion<std::shared_ptr<Punto>> puntos_;
     bool flecha_ = false;
     float valor_ = 0;
