@@ -3,9 +3,11 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <vector>
 
 #include "file/Formato.h"
+#include "file/lectorArchivo.h"
 #include "model/TipoElemento.h"
 #include "platform/Numeros.h"
 #include "platform/Texto.h"
@@ -112,6 +114,16 @@ std::string EscribeRed(int elementos) {
     const auto ruta = std::filesystem::temp_directory_path() / ("red-" + std::to_string(elementos) + ".xml");
     std::ofstream(ruta, std::ios::binary) << GeneraRed(elementos);
     return ruta.string();
+}
+
+std::shared_ptr<Elementos> CargaRed(int elementos) {
+    lectorArchivo lector;
+    auto red = std::make_shared<Elementos>();
+    lector.NombreArchivo(EscribeRed(elementos));
+    lector.Coleccion(red);
+    lector.Carga();
+    if (red->Count() != elementos) throw std::runtime_error("the schematic is not what was written");
+    return red;
 }
 
 }  // namespace zel::bench

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <memory>
 #include <string>
+
+#include "model/Elementos.h"
 
 namespace zel::bench {
 
@@ -10,5 +13,8 @@ std::string GeneraRed(int elementos);
 
 // Writes it to a file of its own in the temporary folder and returns the path.
 std::string EscribeRed(int elementos);
+
+// Reads it back.
+std::shared_ptr<Elementos> CargaRed(int elementos);
 
 }  // namespace zel::bench

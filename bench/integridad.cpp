@@ -7,21 +7,11 @@
 
 #include "GeneraRed.h"
 #include "file/GuardadoSeguro.h"
-#include "file/lectorArchivo.h"
 #include "platform/Dialogos.h"
 
 namespace {
 
 constexpr int ELEMENTOS = 32767;
-
-std::shared_ptr<zel::Elementos> Red(int elementos) {
-    zel::lectorArchivo lector;
-    auto red = std::make_shared<zel::Elementos>();
-    lector.NombreArchivo(zel::bench::EscribeRed(elementos));
-    lector.Coleccion(red);
-    lector.Carga();
-    return red;
-}
 
 std::string Salida(const char* nombre) {
     return (std::filesystem::temp_directory_path() / nombre).string();
@@ -43,14 +33,14 @@ class Mudos : public zel::Dialogos {
 };
 
 void VerificaIntegridad(benchmark::State& estado) {
-    const auto red = Red(static_cast<int>(estado.range(0)));
+    const auto red = zel::bench::CargaRed(static_cast<int>(estado.range(0)));
     for (auto _ : estado)
         benchmark::DoNotOptimize(red->VerificaIntegridad());
 }
 BENCHMARK(VerificaIntegridad)->Arg(8192)->Arg(ELEMENTOS)->Unit(benchmark::kMillisecond)->MinTime(2);
 
 void Guardado(benchmark::State& estado) {
-    const auto red = Red(ELEMENTOS);
+    const auto red = zel::bench::CargaRed(ELEMENTOS);
     const std::string salida = Salida("guardado.xml");
     for (auto _ : estado)
         zel::GuardaConSeguridad(salida, red, std::nullopt, true);
@@ -59,7 +49,7 @@ BENCHMARK(Guardado)->Unit(benchmark::kMillisecond)->MinTime(3);
 
 void SerieDeLibxml2(benchmark::State& estado) {
     const std::string entrada = Salida("guardado.xml");
-    zel::GuardaConSeguridad(entrada, Red(ELEMENTOS), std::nullopt, true);
+    zel::GuardaConSeguridad(entrada, zel::bench::CargaRed(ELEMENTOS), std::nullopt, true);
     xmlDoc* documento = xmlReadFile(entrada.c_str(), nullptr, XML_PARSE_NONET);
     const std::string salida = Salida("serie.xml");
     for (auto _ : estado) {

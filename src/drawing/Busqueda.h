@@ -24,7 +24,7 @@ constexpr std::int16_t PARTE_SIN_TRAZADO_NUEVO = -1;
 // The first element in collection order is found. Labels are asked only where nothing else is, and there the
 // last one is found, which is the one on top.
 struct Busqueda {
-    PuntoXY punto;
+    PuntoXY punto{};
     float factorTolerancia = 0.5F;
     // Codes of elements that are not looked at, except for linear ones with a segment being edited.
     const std::unordered_set<std::int32_t>* excluidos = nullptr;

@@ -88,9 +88,9 @@ void Elemento::EtiquetaTamanyo(float valor) noexcept {
 void Elemento::Entra(DiarioDeCambios& diario, std::uint64_t orden) noexcept {
     pertenencia_.diario = &diario;
     pertenencia_.orden = orden;
-    pertenencia_.uso.Empieza(trazado_.get(), *this, diario);
-    pertenencia_.uso2.Empieza(trazado2_.get(), *this, diario);
-    diario.Anota(*this);
+    pertenencia_.uso.Empieza(trazado_.get(), *this);
+    pertenencia_.uso2.Empieza(trazado2_.get(), *this);
+    Anota();
 }
 
 void Elemento::Sale() noexcept {
@@ -107,8 +107,8 @@ void Elemento::CambiaTrazado(std::shared_ptr<Puntos>& trazado, UsoDeTrazado& uso
     uso.Termina();
     trazado = std::move(valor);
     if (!pertenencia_.diario) return;
-    uso.Empieza(trazado.get(), *this, *pertenencia_.diario);
-    pertenencia_.diario->Anota(*this);
+    uso.Empieza(trazado.get(), *this);
+    Anota();
 }
 
 std::span<const Propiedad<Elemento>> Elemento::Propiedades() noexcept {

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 
+#include "model/DiarioDeCambios.h"
 #include "model/Puntos.h"
 #include "model/TipoElemento.h"
 
@@ -109,6 +110,7 @@ class Elemento : public Objeto {
 
   private:
     friend class Elementos;
+    friend class Puntos;
 
     // What binds the element to its collection.
     struct Pertenencia {
@@ -132,8 +134,10 @@ class Elemento : public Objeto {
     void Cambia(T& campo, T valor) noexcept {
         const bool seAnota = pertenencia_.diario && campo != valor;
         campo = std::move(valor);
-        if (seAnota) pertenencia_.diario->Anota(*this);
+        if (seAnota) Anota();
     }
+    // Only in a collection.
+    void Anota() const noexcept { pertenencia_.diario->Anota(*this); }
 
     template <typename Lectura>
     void CopiaFilas(Lectura lee);

@@ -1,5 +1,7 @@
 #include "model/Puntos.h"
 
+#include "model/Elemento.h"
+
 namespace zel {
 
 namespace {
@@ -30,27 +32,25 @@ Puntos::~Puntos() {
         punto->trazado_ = nullptr;
 }
 
-void UsoDeTrazado::Empieza(Puntos* trazado, const Elemento& elemento, DiarioDeCambios& diario) noexcept {
+void UsoDeTrazado::Empieza(Puntos* trazado, const Elemento& elemento) noexcept {
     if (!trazado) return;
-    trazado_ = trazado;
     elemento_ = &elemento;
-    diario_ = &diario;
+    enlace_ = &trazado->usos_;
     siguiente_ = trazado->usos_;
-    if (siguiente_) siguiente_->anterior_ = this;
+    if (siguiente_) siguiente_->enlace_ = &siguiente_;
     trazado->usos_ = this;
 }
 
 void UsoDeTrazado::Termina() noexcept {
-    if (!trazado_) return;
-    (anterior_ ? anterior_->siguiente_ : trazado_->usos_) = siguiente_;
-    if (siguiente_) siguiente_->anterior_ = anterior_;
-    trazado_ = nullptr;
-    anterior_ = siguiente_ = nullptr;
+    if (!enlace_) return;
+    *enlace_ = siguiente_;
+    if (siguiente_) siguiente_->enlace_ = enlace_;
+    enlace_ = nullptr;
 }
 
 void Puntos::HaCambiado() const noexcept {
     for (const UsoDeTrazado* uso = usos_; uso; uso = uso->siguiente_)
-        uso->diario_->Anota(*uso->elemento_);
+        uso->elemento_->Anota();
 }
 
 void Puntos::AddObjetoPunto(const std::shared_ptr<Punto>& aPunto, bool SoloCoordenadas,

@@ -5,14 +5,15 @@
 #include <optional>
 #include <span>
 
-#include "model/DiarioDeCambios.h"
 #include "model/Punto.h"
 #include "platform/Coleccion.h"
 
 namespace zel {
 
-// That an element of a collection has a trace: what ties the trace to the collection's journal. A trace may
-// be shared by many elements, so each brings its own link of the trace's chain of uses.
+class Elemento;
+
+// That an element of a collection has a trace: by it the element hears of the trace's changes. A trace may be
+// shared by many elements, so each brings its own link of the trace's chain of uses.
 class UsoDeTrazado {
   public:
     UsoDeTrazado() = default;
@@ -21,15 +22,14 @@ class UsoDeTrazado {
     ~UsoDeTrazado() { Termina(); }
 
     // Without a trace it does nothing.
-    void Empieza(Puntos* trazado, const Elemento& elemento, DiarioDeCambios& diario) noexcept;
+    void Empieza(Puntos* trazado, const Elemento& elemento) noexcept;
     void Termina() noexcept;
 
   private:
     friend class Puntos;
-    Puntos* trazado_ = nullptr;
     const Elemento* elemento_ = nullptr;
-    DiarioDeCambios* diario_ = nullptr;
-    UsoDeTrazado* anterior_ = nullptr;
+    UsoDeTrazado** enlace_ =
+        nullptr;  // what points to this one: the trace or the use before; null when unused
     UsoDeTrazado* siguiente_ = nullptr;
 };
 
