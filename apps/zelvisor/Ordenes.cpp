@@ -1,8 +1,9 @@
 #include "Ordenes.h"
 
-#include <QImageWriter>
+#include <QFileInfo>
 #include <array>
 #include <iostream>
+#include <optional>
 #include <sstream>
 #include <vector>
 
@@ -104,31 +105,43 @@ int Convierte(const QString& entrada, const QString& salida) {
 }
 
 int Exporta(const QString& entrada, const QString& salida, const QString& ancho) {
-    bool esNumero = true;
-    const int pixeles = ancho.isEmpty() ? ANCHO_NORMAL_DE_IMAGEN : ancho.toInt(&esNumero);
-    if (!esNumero || pixeles < ANCHO_MINIMO_DE_IMAGEN || pixeles > LADO_MAXIMO_DE_IMAGEN) {
-        std::cerr << "zelvisor: el ancho ha de ser un número de píxeles entre " << ANCHO_MINIMO_DE_IMAGEN
-                  << " y " << LADO_MAXIMO_DE_IMAGEN << ".\n";
+    const auto formato = FormatoDeArchivo(salida);
+    if (!formato) {
+        std::cerr
+            << "zelvisor: el esquema se exporta como imagen PNG o como dibujo SVG o PDF; dé a la salida "
+               "un nombre que acabe en .png, .svg o .pdf.\n";
         return NO_HECHO;
     }
-    if (!salida.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive)) {
-        std::cerr
-            << "zelvisor: la imagen se guarda en formato PNG; dé a la salida un nombre que acabe en .png.\n";
+    if (*formato == FormatoDeDibujo::Pdf && !ancho.isNull()) {
+        std::cerr << "zelvisor: una página PDF se mide en milímetros, uno por unidad del esquema; quite "
+                     "--ancho o exporte a .png o .svg.\n";
         return NO_HECHO;
+    }
+    std::optional<int> pixeles;
+    if (!ancho.isNull()) {
+        bool esNumero = false;
+        pixeles = ancho.toInt(&esNumero);
+        if (!esNumero || *pixeles < ANCHO_MINIMO_DE_IMAGEN || *pixeles > LADO_MAXIMO_DE_IMAGEN) {
+            std::cerr << "zelvisor: el ancho ha de ser un número de píxeles entre " << ANCHO_MINIMO_DE_IMAGEN
+                      << " y " << LADO_MAXIMO_DE_IMAGEN << ".\n";
+            return NO_HECHO;
+        }
     }
     const EsquemaLeido leido = LeeODilo(entrada);
     if (!leido.elementos) return ILEGIBLE;
-    QStringList fallos;
-    const QImage imagen = ImagenDeEsquema(*leido.elementos, leido.bMostrarLineasOcultas, pixeles, fallos);
-    QImageWriter escritor(salida, "png");
-    if (!escritor.write(imagen)) {
+    try {
+        const QString titulo = QFileInfo(entrada).completeBaseName();
+        for (const QString& fallo :
+             ExportaEsquema(salida, *leido.elementos, leido.bMostrarLineasOcultas, titulo, pixeles)) {
+            std::cerr << "zelvisor: no se ha podido dibujar: " << fallo.toStdString() << '\n';
+        }
+        return 0;
+    } catch (const Fallo& fallo) {
         std::cerr << "zelvisor: no se puede escribir \"" << salida.toStdString()
-                  << "\". Compruebe que la carpeta existe y que puede escribir en ella.\n";
+                  << "\": " << fallo.Description()
+                  << ".\nEl archivo que hubiera con ese nombre sigue como estaba.\n";
         return NO_HECHO;
     }
-    for (const QString& fallo : fallos)
-        std::cerr << "zelvisor: no se ha podido dibujar: " << fallo.toStdString() << '\n';
-    return 0;
 }
 
 int Informa(const QString& entrada) {

@@ -65,7 +65,7 @@ struct Peticion {
 
 int DiUso() {
     std::cerr << "zelvisor: faltan o sobran argumentos. Uso:\n"
-                 "  zelvisor exportar ENTRADA SALIDA.png [--ancho PIXELS]\n"
+                 "  zelvisor exportar ENTRADA SALIDA.{png,svg,pdf} [--ancho PIXELS]\n"
                  "  zelvisor info ENTRADA\n"
                  "  zelvisor verificar ENTRADA [--corregir SALIDA]\n"
                  "  zelvisor convertir ENTRADA SALIDA.xml\n";
@@ -115,15 +115,16 @@ int main(int argc, char** argv) {
     QCommandLineParser lector;
     lector.setApplicationDescription(QStringLiteral(
         "Visor de esquemas de sistemas de recursos hídricos.\n\n"
-        "  zelvisor [ESQUEMA]                                     abre la ventana\n"
-        "  zelvisor exportar ENTRADA SALIDA.png [--ancho PIXELS]  dibuja el esquema en una imagen\n"
-        "  zelvisor info ENTRADA                                  cuenta qué hay en el archivo\n"
-        "  zelvisor verificar ENTRADA [--corregir SALIDA]         busca faltas de integridad\n"
-        "  zelvisor convertir ENTRADA SALIDA.xml                  lee el esquema y lo guarda"));
+        "  zelvisor [ESQUEMA]                              abre la ventana\n"
+        "  zelvisor exportar ENTRADA SALIDA.{png,svg,pdf}  dibuja el esquema: imagen PNG, o SVG o PDF\n"
+        "  zelvisor info ENTRADA                           cuenta qué hay en el archivo\n"
+        "  zelvisor verificar ENTRADA [--corregir SALIDA]  busca faltas de integridad\n"
+        "  zelvisor convertir ENTRADA SALIDA.xml           lee el esquema y lo guarda"));
     lector.addHelpOption();
-    lector.addOption({QStringLiteral("ancho"),
-                      QStringLiteral("Ancho de la imagen en píxeles (1600 si no se da)."),
-                      QStringLiteral("PIXELS")});
+    lector.addOption(
+        {QStringLiteral("ancho"),
+         QStringLiteral("Ancho en píxeles de la imagen PNG (1600 si no se da) o del dibujo SVG."),
+         QStringLiteral("PIXELS")});
     lector.addOption({QStringLiteral("corregir"), QStringLiteral("Guarda en SALIDA el esquema corregido."),
                       QStringLiteral("SALIDA")});
     lector.addPositionalArgument(QStringLiteral("ESQUEMA"), QStringLiteral("Archivo que se abre."),

@@ -1,5 +1,10 @@
 #include "control/Exportacion.h"
 
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QPageLayout>
+#include <QPdfWriter>
 #include <algorithm>
 #include <cmath>
 
@@ -7,7 +12,10 @@
 #include "drawing/Pintor.h"
 #include "model/TamanyoUnidad.h"
 #include "platform/Fallo.h"
+#include "platform/ReemplazoDeArchivo.h"
 #include "platform/qt/Lienzo.h"
+#include "platform/qt/LienzoSvg.h"
+#include "platform/qt/LienzoVectorial.h"
 #include "session/Extension.h"
 
 namespace zel {
@@ -17,7 +25,11 @@ namespace {
 // The scale at which symbols and texts have their nominal size: a world unit is a millimetre, plain text
 // has eight points.
 constexpr double PIXELES_POR_UNIDAD = PPP_NORMAL / 25.4;
+constexpr double PUNTOS_POR_UNIDAD = 72 / 25.4;
 constexpr float PUNTOS_DEL_TEXTO = 8;
+
+constexpr int LADO_MAXIMO_DE_PAGINA = 14400;  // points: no reader of PDF need show more
+constexpr const char* AUTOR = "zelvisor";
 
 constexpr float MARGEN = 4;        // world units around everything
 constexpr float LADO_MINIMO = 10;  // of TamanyoUnidad: the picture of one node shows it, not its outline
@@ -66,6 +78,47 @@ Marco Encuadre(const Elementos& elementos) {
     return entero;
 }
 
+// The picture's frame as the surface's scale, Y upwards from its bottom edge.
+void Encuadra(Superficie& lienzo, const Marco& encuadre) {
+    lienzo.ScaleLeft(encuadre.Xmin);
+    lienzo.ScaleTop(encuadre.Ymax);
+    lienzo.ScaleWidth(encuadre.Xmax - encuadre.Xmin);
+    lienzo.ScaleHeight(encuadre.Ymin - encuadre.Ymax);
+}
+
+void Pinta(Superficie& lienzo, const Elementos& elementos, bool bMostrarLineasOcultas, QStringList& fallos) {
+    for (const auto& fallo :
+         PintaEsquema(lienzo, AjustesNominales(lienzo, bMostrarLineasOcultas), elementos, elementos)) {
+        fallos << QString::fromStdString(fallo);
+    }
+}
+
+// The same document each time: without the date, whose place stays for the sake of those behind it.
+void BorraLaFecha(QByteArray& pdf) {
+    const qsizetype desde = pdf.indexOf("/CreationDate (");
+    const qsizetype hasta = desde < 0 ? -1 : pdf.indexOf(')', desde);
+    for (qsizetype i = desde; i >= 0 && i <= hasta; ++i)
+        pdf[i] = ' ';
+}
+
+// A page of whole points, as its format wants, no smaller than the frame; and the world that fills it.
+struct Pagina {
+    explicit Pagina(const Marco& encuadre) : mundo(encuadre) {
+        const double ancho = (double{encuadre.Xmax} - encuadre.Xmin) * PUNTOS_POR_UNIDAD;
+        const double alto = (double{encuadre.Ymax} - encuadre.Ymin) * PUNTOS_POR_UNIDAD;
+        reduccion = std::min(1.0, LADO_MAXIMO_DE_PAGINA / std::max(ancho, alto));
+        const auto lado = [&](double puntosDeLado) {
+            return std::min(LADO_MAXIMO_DE_PAGINA, static_cast<int>(std::ceil(puntosDeLado * reduccion)));
+        };
+        puntos = QSize(lado(ancho), lado(alto));
+        mundo.Xmax = static_cast<float>(mundo.Xmin + puntos.width() / (PUNTOS_POR_UNIDAD * reduccion));
+        mundo.Ymin = static_cast<float>(mundo.Ymax - puntos.height() / (PUNTOS_POR_UNIDAD * reduccion));
+    }
+    QSize puntos;
+    double reduccion;
+    Marco mundo;
+};
+
 }  // namespace
 
 QImage ImagenDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, int ancho,
@@ -81,15 +134,77 @@ QImage ImagenDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, i
     }
     Lienzo lienzo;
     lienzo.Redimensiona(tamanyo, ancho / (anchoDelMundo * PIXELES_POR_UNIDAD));
-    lienzo.ScaleLeft(encuadre.Xmin);
-    lienzo.ScaleTop(encuadre.Ymax);
-    lienzo.ScaleWidth(static_cast<float>(anchoDelMundo));
-    lienzo.ScaleHeight(encuadre.Ymin - encuadre.Ymax);
-    for (const auto& fallo :
-         PintaEsquema(lienzo, AjustesNominales(lienzo, bMostrarLineasOcultas), elementos, elementos)) {
-        fallos << QString::fromStdString(fallo);
-    }
+    Encuadra(lienzo, encuadre);
+    Pinta(lienzo, elementos, bMostrarLineasOcultas, fallos);
     return lienzo.Entrega();
+}
+
+QByteArray SvgDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, const QString& titulo,
+                        std::optional<int> ancho, QStringList& fallos) {
+    const Marco encuadre = Encuadre(elementos);
+    const double milimetros = double{encuadre.Xmax} - encuadre.Xmin;
+    LienzoSvg lienzo(QSizeF(milimetros, double{encuadre.Ymax} - encuadre.Ymin) * PIXELES_POR_UNIDAD);
+    Encuadra(lienzo, encuadre);
+    Pinta(lienzo, elementos, bMostrarLineasOcultas, fallos);
+    return QByteArray::fromStdString(ancho ? lienzo.Documento(titulo.toStdString(), AUTOR, *ancho, "px")
+                                           : lienzo.Documento(titulo.toStdString(), AUTOR, milimetros, "mm"));
+}
+
+QByteArray PdfDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, const QString& titulo,
+                        QStringList& fallos) {
+    const Pagina pagina(Encuadre(elementos));
+    QBuffer datos;
+    datos.open(QIODevice::WriteOnly);
+    QPdfWriter escritor(&datos);
+    escritor.setTitle(titulo);
+    escritor.setCreator(QLatin1String(AUTOR));
+    escritor.setResolution(static_cast<int>(PPP_NORMAL));
+    escritor.setPageLayout(
+        QPageLayout(QPageSize(pagina.puntos, titulo, QPageSize::ExactMatch), QPageLayout::Portrait, {}));
+    const QSizeF pixeles =
+        QSizeF(pagina.puntos) / (pagina.reduccion * PUNTOS_POR_UNIDAD) * PIXELES_POR_UNIDAD;
+    LienzoVectorial lienzo(escritor, pixeles, pagina.reduccion);
+    Encuadra(lienzo, pagina.mundo);
+    Pinta(lienzo, elementos, bMostrarLineasOcultas, fallos);
+    if (!lienzo.Termina()) throw Fallo(57);
+    QByteArray pdf = std::move(datos.buffer());
+    BorraLaFecha(pdf);
+    return pdf;
+}
+
+std::optional<FormatoDeDibujo> FormatoDeArchivo(const QString& archivo) {
+    const QString extension = QFileInfo(archivo).suffix().toLower();
+    if (extension == QLatin1String("png")) return FormatoDeDibujo::Png;
+    if (extension == QLatin1String("svg")) return FormatoDeDibujo::Svg;
+    if (extension == QLatin1String("pdf")) return FormatoDeDibujo::Pdf;
+    return std::nullopt;
+}
+
+QStringList ExportaEsquema(const QString& archivo, const Elementos& elementos, bool bMostrarLineasOcultas,
+                           const QString& titulo, std::optional<int> ancho) {
+    const auto formato = FormatoDeArchivo(archivo);
+    if (!formato) throw Fallo(5);
+    // Before the drawing, which may take its time.
+    ReemplazoDeArchivo reemplazo(archivo.toStdString());
+    QStringList fallos;
+    QByteArray datos;
+    if (*formato == FormatoDeDibujo::Png) {
+        QBuffer png(&datos);
+        const QImage imagen =
+            ImagenDeEsquema(elementos, bMostrarLineasOcultas, ancho.value_or(ANCHO_NORMAL_DE_IMAGEN), fallos);
+        if (!png.open(QIODevice::WriteOnly) || !imagen.save(&png, "png")) throw Fallo(7);
+    } else if (*formato == FormatoDeDibujo::Svg) {
+        datos = SvgDeEsquema(elementos, bMostrarLineasOcultas, titulo, ancho, fallos);
+    } else {
+        datos = PdfDeEsquema(elementos, bMostrarLineasOcultas, titulo, fallos);
+    }
+    QFile temporal(QString::fromStdString(reemplazo.Temporal()));
+    if (!temporal.open(QIODevice::WriteOnly) || temporal.write(datos) != datos.size() || !temporal.flush()) {
+        throw Fallo(57, temporal.errorString().toStdString());
+    }
+    temporal.close();
+    reemplazo.Confirma();
+    return fallos;
 }
 
 }  // namespace zel

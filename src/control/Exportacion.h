@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QStringList>
+#include <optional>
 
 #include "model/Elementos.h"
 
@@ -18,5 +20,26 @@ constexpr int ANCHO_NORMAL_DE_IMAGEN = 1600;
 // to `fallos`. Fails with 5 when the picture would be too high, with 7 when there is no memory for it.
 QImage ImagenDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, int ancho,
                        QStringList& fallos);
+
+// The same drawing as SVG: at the nominal scale, or that many pixels wide.
+QByteArray SvgDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, const QString& titulo,
+                        std::optional<int> ancho, QStringList& fallos);
+
+// The same drawing as a PDF of one page at the nominal scale, reduced where a side would be longer than the
+// 14,400 points (5.08 m) of the format. Fails with 57 when Qt cannot make it.
+QByteArray PdfDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, const QString& titulo,
+                        QStringList& fallos);
+
+enum class FormatoDeDibujo { Png, Svg, Pdf };
+
+// The format that a file's extension stands for, in capital or small letters; none when it is another.
+std::optional<FormatoDeDibujo> FormatoDeArchivo(const QString& archivo);
+
+// Draws the schematic into a file of the format that its extension stands for, and returns what could not be
+// drawn. `ancho` in pixels, of no effect on PDF. An earlier file is replaced in a single step: whatever
+// fails, it stays, and nothing else does. Fails with 5 for another extension, as the above do, and with the
+// number of the system's reason when the file cannot be written.
+QStringList ExportaEsquema(const QString& archivo, const Elementos& elementos, bool bMostrarLineasOcultas,
+                           const QString& titulo, std::optional<int> ancho);
 
 }  // namespace zel

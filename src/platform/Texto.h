@@ -10,6 +10,19 @@ namespace zel {
 // The character that begins at texto[i]; i moves behind it. A byte that begins none is taken as itself.
 char32_t SiguienteCaracter(std::string_view texto, std::size_t& i) noexcept;
 
+// Calls `accion` with each line of the text, without its line break.
+template <typename Accion>
+void PorLineas(std::string_view texto, Accion accion) {
+    for (;;) {
+        const std::size_t salto = texto.find('\n');
+        std::string_view linea = texto.substr(0, salto);
+        if (!linea.empty() && linea.back() == '\r') linea.remove_suffix(1);
+        accion(linea);
+        if (salto == std::string_view::npos) return;
+        texto.remove_prefix(salto + 1);
+    }
+}
+
 // In small letters, ASCII and the Latin letters with accents, whatever the locale: the form in which names
 // and keys are compared.
 std::string EnMinusculas(std::string_view texto);

@@ -19,24 +19,11 @@ QImage& Medidor() {
     return medidor;
 }
 
+}  // namespace
+
 QString DeUtf8(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
 }
-
-// Calls `accion` with each line of the text.
-template <typename Accion>
-void PorLineas(std::string_view texto, Accion accion) {
-    for (;;) {
-        const std::size_t salto = texto.find('\n');
-        std::string_view linea = texto.substr(0, salto);
-        if (!linea.empty() && linea.back() == '\r') linea.remove_suffix(1);
-        accion(linea);
-        if (salto == std::string_view::npos) return;
-        texto.remove_prefix(salto + 1);
-    }
-}
-
-}  // namespace
 
 QImage ImagenNormal(QSize pixeles) {
     QImage imagen(pixeles.expandedTo({1, 1}), QImage::Format_RGB32);
@@ -45,7 +32,7 @@ QImage ImagenNormal(QSize pixeles) {
     return imagen;
 }
 
-FuenteDeTexto::FuenteDeTexto(const QString& familia, double alto) : fuente_(familia) {
+FuenteDeTexto::FuenteDeTexto(const QFont& letra, double alto) : fuente_(letra) {
     fuente_.setPointSizeF(alto * PUNTOS_POR_PIXEL);
     fuente_.setKerning(false);
     fuente_.setHintingPreference(QFont::PreferNoHinting);
@@ -65,6 +52,8 @@ FuenteDeTexto::FuenteDeTexto(const QString& familia, double alto) : fuente_(fami
         if (c < 0x7F || c >= 0xA0) latinos_[c] = {indices[i], avances[i].x()};
     }
     tirada_.setRawFont(cruda_);
+    tirada_.setUnderline(fuente_.underline());
+    tirada_.setStrikeOut(fuente_.strikeOut());
 }
 
 // Null for a character that is not in the table.
@@ -122,11 +111,38 @@ void FuenteDeTexto::Pinta(QPainter& pintor, QPointF esquina, const QColor& color
     });
 }
 
+void FuenteDeTexto::PintaComoTexto(QPainter& pintor, QPointF esquina, const QColor& color,
+                                   std::string_view texto) const {
+    QFont fuente = fuente_;
+    fuente.setPointSizeF(fuente_.pointSizeF() * PPP_NORMAL / pintor.device()->logicalDpiY());
+    pintor.setFont(fuente);
+    pintor.setPen(color);
+    double y = esquina.y() + ascenso_;
+    PorLineas(texto, [&](std::string_view linea) {
+        pintor.drawText(QPointF(esquina.x(), y), DeUtf8(linea));
+        y += altoDeLinea_;
+    });
+}
+
+Fuentes::Fuentes() : letra_(QStringLiteral("Arial")) {}
+
+bool Fuentes::Letra(const QFont& fuente) {
+    QFont letra(fuente.family());
+    letra.setWeight(fuente.weight());
+    letra.setItalic(fuente.italic());
+    letra.setUnderline(fuente.underline());
+    letra.setStrikeOut(fuente.strikeOut());
+    if (letra == letra_) return false;
+    letra_ = letra;
+    porAlto_.clear();
+    return true;
+}
+
 FuenteDeTexto& Fuentes::De(double alto) {
     const auto [lugar, nueva] = porAlto_.try_emplace(alto);
     Guardada& guardada = lugar->second;
     guardada.uso = ++usos_;
-    if (nueva) guardada.fuente = std::make_unique<FuenteDeTexto>(familia_, alto);
+    if (nueva) guardada.fuente = std::make_unique<FuenteDeTexto>(letra_, alto);
     if (porAlto_.size() > TAMANYOS_GUARDADOS) {
         porAlto_.erase(std::min_element(porAlto_.begin(), porAlto_.end(), [](const auto& a, const auto& b) {
             return a.second.uso < b.second.uso;

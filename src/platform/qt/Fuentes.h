@@ -21,18 +21,25 @@ constexpr double PPP_NORMAL = 96;
 // An opaque RGB image of that resolution; null when there is no memory for it.
 QImage ImagenNormal(QSize pixeles);
 
+QString DeUtf8(std::string_view texto);
+
 // The text of a drawing surface at one size. Latin texts are laid out glyph by glyph from a table, without
 // kerning and without hinting, so that widths grow evenly with the size; any other text goes through Qt's
 // own layout.
 class FuenteDeTexto {
   public:
     // `alto` in device pixels (the font's size, not its line height).
-    FuenteDeTexto(const QString& familia, double alto);
+    FuenteDeTexto(const QFont& letra, double alto);
 
     // Device pixels. A line break in the text begins a new line.
     double Ancho(std::string_view texto) const;
     double Alto(std::string_view texto) const;
     void Pinta(QPainter& pintor, QPointF esquina, const QColor& color, std::string_view texto);
+    // As characters rather than glyphs, for devices that keep them: `alto` is then in the painter's units.
+    void PintaComoTexto(QPainter& pintor, QPointF esquina, const QColor& color, std::string_view texto) const;
+    // From the top of a line to what its letters stand on, and from a line to the next.
+    double Ascenso() const noexcept { return ascenso_; }
+    double AltoDeLinea() const noexcept { return altoDeLinea_; }
 
   private:
     struct Glifo {
@@ -55,10 +62,14 @@ class FuenteDeTexto {
     std::vector<QPointF> lugares_;
 };
 
-// The sizes in use. The one asked for last is always kept.
+// The sizes in use of one font. The one asked for last is always kept.
 class Fuentes {
   public:
-    explicit Fuentes(QString familia) : familia_(std::move(familia)) {}
+    Fuentes();
+    const QFont& Letra() const noexcept { return letra_; }
+    // Takes the font's family, weight and lines; false when they are those that were. What De returned before
+    // is gone otherwise.
+    bool Letra(const QFont& fuente);
     FuenteDeTexto& De(double alto);
 
   private:
@@ -66,7 +77,7 @@ class Fuentes {
         std::unique_ptr<FuenteDeTexto> fuente;
         std::uint64_t uso = 0;
     };
-    QString familia_;
+    QFont letra_;
     std::map<double, Guardada> porAlto_;
     std::uint64_t usos_ = 0;
 };

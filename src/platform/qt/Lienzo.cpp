@@ -7,7 +7,6 @@
 #include <numbers>
 
 #include "platform/Fallo.h"
-#include "platform/qt/ImagenQt.h"
 
 namespace zel {
 
@@ -15,26 +14,6 @@ namespace {
 
 // Beyond this the rasterizer is not exact any more; strokes are cut there.
 constexpr double LEJOS = 30000;
-constexpr double LETRA_MINIMA = 1;  // pixels
-constexpr double LETRA_DE_MEDIDA = 16;
-
-QColor ColorQt(std::int32_t color) {
-    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
-}
-
-// In units of the pen's width.
-QList<qreal> Trazos(std::int16_t estilo) {
-    switch (estilo) {
-        case Superficie::ESTILO_TRAZOS:
-            return {7, 4};
-        case Superficie::ESTILO_TRAZO_PUNTO:
-            return {8, 3, 2, 3};
-        case Superficie::ESTILO_TRAZO_PUNTO_PUNTO:
-            return {8, 3, 2, 3, 2, 3};
-        default:
-            return {};
-    }
-}
 
 QPainter::CompositionMode ModoDeComposicion(bool invierte) noexcept {
     return invierte ? QPainter::RasterOp_NotDestination : QPainter::CompositionMode_SourceOver;
@@ -76,14 +55,12 @@ Lienzo::Lienzo(QSize pixeles, double relacion) {
 void Lienzo::Redimensiona(QSize pixeles, double relacion, double ppp) {
     QImage nueva = ImagenNormal(pixeles);
     if (nueva.isNull()) throw Fallo(7);
-    nueva.fill(Qt::white);
+    nueva.fill(ColorQt(BackColor()));
     if (pintor_.isActive()) pintor_.end();
     imagen_ = std::move(nueva);
     pintor_.begin(&imagen_);
-    relacion_ = relacion;
-    pixelesPorPunto_ = relacion * ppp / 72;
+    Mide(imagen_.size(), relacion * ppp / 72, relacion);
     hayPlumaPuesta_ = false;
-    fuente_ = nullptr;
     puntos_.clear();
 }
 
@@ -91,7 +68,7 @@ QImage Lienzo::Entrega() {
     AsientaPuntos();
     pintor_.end();
     QImage imagen = std::move(imagen_);
-    Redimensiona({1, 1}, relacion_);
+    Redimensiona({1, 1}, Relacion());
     return imagen;
 }
 
@@ -100,17 +77,8 @@ const QImage& Lienzo::Imagen() {
     return imagen_;
 }
 
-float Lienzo::AnchoDePixel() const {
-    return static_cast<float>(relacion_ / PixelesPorUnidadX());
-}
-
-QPointF Lienzo::EnPixeles(PuntoXY punto) const noexcept {
-    return {(double{punto.X} - ScaleLeft()) * PixelesPorUnidadX(),
-            (double{punto.Y} - ScaleTop()) * PixelesPorUnidadY()};
-}
-
 double Lienzo::AnchoDePluma() const noexcept {
-    return std::max(1.0, std::round(pluma().DrawWidth * relacion_));
+    return std::max(1.0, std::round(pluma().DrawWidth * Relacion()));
 }
 
 void Lienzo::PonPluma() {
@@ -118,22 +86,13 @@ void Lienzo::PonPluma() {
     if (hayPlumaPuesta_ && puesta_ == pluma()) return;
     puesta_ = pluma();
     hayPlumaPuesta_ = true;
-    const bool negro = puesta_.DrawMode == MODO_NEGRO;
-    const QColor color = negro ? QColor(Qt::black) : ColorQt(puesta_.ForeColor);
-    QPen pluma(color, AnchoDePluma());
+    QPen pluma = PlumaQt(AnchoDePluma());
     // One device pixel is a cosmetic pen's width, which Qt draws much faster.
     pluma.setCosmetic(true);
-    const bool solida = puesta_.DrawStyle == ESTILO_SOLIDO || puesta_.DrawWidth > 1;
-    if (solida) {
-        pluma.setCapStyle(puesta_.DrawWidth > 1 ? Qt::RoundCap : Qt::SquareCap);
-    } else {
-        pluma.setCapStyle(Qt::FlatCap);
-        pluma.setDashPattern(Trazos(puesta_.DrawStyle));
-    }
-    pluma.setJoinStyle(Qt::RoundJoin);
+    if (puesta_.DrawStyle == ESTILO_SOLIDO && puesta_.DrawWidth == 1) pluma.setCapStyle(Qt::SquareCap);
     pintor_.setPen(pluma);
     if (puesta_.FillStyle == RELLENO_SOLIDO) {
-        pintor_.setBrush(negro ? QColor(Qt::black) : ColorQt(puesta_.FillColor));
+        pintor_.setBrush(ColorDe(puesta_.FillColor));
     } else {
         pintor_.setBrush(Qt::NoBrush);
     }
@@ -293,7 +252,7 @@ void Lienzo::AsientaPuntos() {
     if (puntos_.empty()) return;
     pintor_.setCompositionMode(ModoDeComposicion(puntosInvierten_));
     const QColor color = ColorQt(colorDePuntos_);
-    const int lado = std::max(1, qRound(relacion_));
+    const int lado = std::max(1, qRound(Relacion()));
     for (const QPointF punto : puntos_) {
         const int x = static_cast<int>(std::floor(punto.x() - (lado - 1) / 2.0));
         const int y = static_cast<int>(std::floor(punto.y() - (lado - 1) / 2.0));
@@ -304,65 +263,44 @@ void Lienzo::AsientaPuntos() {
 }
 
 void Lienzo::PaintPicture(const zel::Imagen& imagen, PuntoXY esquina, float ancho, float alto) {
-    const auto* datos = dynamic_cast<const ImagenQt*>(&imagen);
-    if (!datos) throw Fallo(13);
-    const QRectF destino(EnPixeles(esquina), EnPixeles({esquina.X + ancho, esquina.Y + alto}));
-    const QRectF visible = destino.normalized() & QRectF(imagen_.rect());
+    const ImagenColocada colocada = Coloca(imagen, esquina, ancho, alto);
+    const QRectF destino = colocada.destino;
+    const QRectF visible = destino & QRectF(imagen_.rect());
     if (visible.isEmpty()) return;
     AsientaPuntos();
     hayPlumaPuesta_ = false;
     // Only the part in sight is scaled: the whole could be larger than any image.
-    const auto origen = [&](QPointF p) {
-        return QPointF((p.x() - destino.left()) / destino.width() * imagen.Ancho(),
-                       (p.y() - destino.top()) / destino.height() * imagen.Alto());
-    };
+    const double columnas = imagen.Ancho() / destino.width();
+    const double filas = imagen.Alto() / destino.height();
+    const QRectF origen((visible.left() - destino.left()) * columnas, (visible.top() - destino.top()) * filas,
+                        visible.width() * columnas, visible.height() * filas);
     pintor_.setCompositionMode(QPainter::CompositionMode_SourceOver);
     pintor_.setRenderHint(QPainter::SmoothPixmapTransform);
-    pintor_.drawImage(visible, datos->Datos(),
-                      QRectF(origen(visible.topLeft()), origen(visible.bottomRight())).normalized());
+    pintor_.drawImage(visible, colocada.imagen, origen);
 }
 
 void Lienzo::Cls() {
     puntos_.clear();
     hayPlumaPuesta_ = false;
     pintor_.setCompositionMode(QPainter::CompositionMode_Source);
-    pintor_.fillRect(imagen_.rect(), Qt::white);
+    pintor_.fillRect(imagen_.rect(), ColorQt(BackColor()));
 }
 
 void Lienzo::Refresh() {
     if (alRefrescar_) alRefrescar_();
 }
 
-// The font in use. Widths are proportional to the size, so that a text too small to be seen is measured in
-// a larger font and `reduccion` brings it down to its own size.
-FuenteDeTexto& Lienzo::Fuente() {
-    if (!fuente_ || puntosDeFuente_ != FontSize()) {
-        puntosDeFuente_ = FontSize();
-        const double alto = puntosDeFuente_ * pixelesPorPunto_;
-        const bool seVe = alto >= LETRA_MINIMA;
-        fuente_ = &fuentes_.De(seVe ? alto : LETRA_DE_MEDIDA);
-        reduccion_ = seVe ? 1 : alto / LETRA_DE_MEDIDA;
-    }
-    return *fuente_;
-}
-
 void Lienzo::Print(std::string_view texto) {
     AsientaPuntos();
     FuenteDeTexto& fuente = Fuente();
-    if (reduccion_ < 1) return;  // less than a pixel high: nothing to be seen
+    if (Reduccion() < 1) return;  // less than a pixel high: nothing to be seen
     pintor_.setCompositionMode(QPainter::CompositionMode_SourceOver);
     hayPlumaPuesta_ = false;
+    if (!FontTransparent()) {
+        const QRectF visible = CajaDeTexto(texto) & QRectF(imagen_.rect());
+        pintor_.fillRect(visible.toAlignedRect(), ColorQt(BackColor()));
+    }
     fuente.Pinta(pintor_, EnPixeles({CurrentX(), CurrentY()}), ColorQt(pluma().ForeColor), texto);
-}
-
-float Lienzo::TextWidth(std::string_view texto) {
-    const double ancho = Fuente().Ancho(texto);
-    return static_cast<float>(ancho * reduccion_ / PixelesPorUnidadX());
-}
-
-float Lienzo::TextHeight(std::string_view texto) {
-    const double alto = Fuente().Alto(texto);
-    return static_cast<float>(alto * reduccion_ / PixelesPorUnidadY());
 }
 
 void Lienzo::MousePointer(std::int16_t puntero, std::int32_t numeroDeCursor) {

@@ -7,23 +7,22 @@
 #include <functional>
 #include <vector>
 
-#include "platform/Superficie.h"
-#include "platform/qt/Fuentes.h"
+#include "platform/qt/SuperficieQt.h"
 
 namespace zel {
 
 // The drawing surface on Qt: an opaque RGB image and a painter on it. Pens are measured in logical pixels;
 // `relacion` is the number of the image's pixels in a logical one and `ppp` that of logical pixels in an
 // inch, so that the same drawing comes out sharp on any screen and at any width.
-class Lienzo : public Superficie {
+class Lienzo : public SuperficieQt {
   public:
     explicit Lienzo(QSize pixeles = {1, 1}, double relacion = 1);
 
-    // Begins anew, white, in that many pixels of the image; a side below one counts as one. Fails with 7
-    // when there is no memory for the image.
+    // Begins anew, in the background's colour, in that many pixels of the image; a side below one counts as
+    // one. Fails with 7 when there is no memory for the image.
     void Redimensiona(QSize pixeles, double relacion, double ppp = PPP_NORMAL);
 
-    double Relacion() const noexcept { return relacion_; }
+    using SuperficieQt::Relacion;
     // All that has been drawn, in the image's pixels.
     const QImage& Imagen();
     // The same, handed over; the surface begins anew with one pixel.
@@ -35,7 +34,6 @@ class Lienzo : public Superficie {
         alCambiarPuntero_ = std::move(accion);
     }
 
-    float AnchoDePixel() const override;
     void Cls() override;
     void Refresh() override;
     using Superficie::Line;
@@ -46,15 +44,9 @@ class Lienzo : public Superficie {
     void PSet(PuntoXY punto, std::int32_t color) override;
     void PaintPicture(const zel::Imagen& imagen, PuntoXY esquina, float ancho, float alto) override;
     void Print(std::string_view texto) override;
-    float TextWidth(std::string_view texto) override;
-    float TextHeight(std::string_view texto) override;
     void MousePointer(std::int16_t puntero, std::int32_t numeroDeCursor) override;
 
   private:
-    bool Invierte() const noexcept { return pluma().DrawMode == MODO_INVERTIR; }
-    double PixelesPorUnidadX() const noexcept { return imagen_.width() / double{ScaleWidth()}; }
-    double PixelesPorUnidadY() const noexcept { return imagen_.height() / double{ScaleHeight()}; }
-    QPointF EnPixeles(PuntoXY punto) const noexcept;
     double AnchoDePluma() const noexcept;
     void PonPluma();
     void Ajusta(std::vector<QPointF>& puntos) const;
@@ -62,16 +54,9 @@ class Lienzo : public Superficie {
     void TrazaUnaVez();
     void TrazaLejana();
     void AsientaPuntos();
-    FuenteDeTexto& Fuente();
 
-    double relacion_ = 1;
-    double pixelesPorPunto_ = 1;
     QImage imagen_;
     QPainter pintor_;  // declared behind the image: it ends first
-    Fuentes fuentes_{QStringLiteral("Arial")};
-    FuenteDeTexto* fuente_ = nullptr;
-    float puntosDeFuente_ = -1;
-    double reduccion_ = 1;
     Pluma puesta_;
     bool hayPlumaPuesta_ = false;
     std::vector<QPointF> cadena_;  // the stroke in hand, in device pixels
