@@ -21,6 +21,11 @@ constexpr std::size_t MOVIMIENTOS = 4096;
 
 class SinBarra : public zel::Anfitrion {
     void TextoEstado(int, const std::string&) override {}
+    void SueltaBotones(zel::Barra) override {}
+    void PulsaBoton(zel::Barra, std::string_view) override {}
+    bool BotonPulsado(zel::Barra, std::string_view) const override { return false; }
+    void BarraElementosActiva(bool) override {}
+    void PeticionBorrado(std::int32_t) override {}
 };
 
 // A viewer of a schematic and the places where the mouse goes, all of them over the elements.

@@ -49,6 +49,13 @@ class Fallos {
             descripciones_.push_back(FalloEnCurso().Description());
         }
     }
+    void Ignora(const std::function<void()>& paso) const {
+        try {
+            paso();
+        } catch (...) {
+            return;
+        }
+    }
     std::vector<std::string> Todos() && { return std::move(descripciones_); }
 
   private:
@@ -58,11 +65,16 @@ class Fallos {
 }  // namespace
 
 std::vector<std::string> PintaEsquema(Superficie& panel, const AjustesDibujo& ajustes,
-                                      const Elementos& elementos, const Elementos& colElementos) {
+                                      const Elementos& elementos, const Elementos& colElementos,
+                                      const Fondo& fondo, const Marcas* marcas) {
     Fallos fallos;
+    panel.DrawWidth(1);
     panel.Cls();
     panel.FillStyle(Superficie::RELLENO_NINGUNO);
     panel.DrawMode(Superficie::MODO_NEGRO);
+    if (fondo.imagen) {
+        fallos.Ignora([&] { panel.PaintPicture(*fondo.imagen, fondo.esquina, fondo.ancho, fondo.alto); });
+    }
     const Marco visible = Marco::Visible(panel);
     const float anchoDePixel = panel.AnchoDePixel();
     float margen = 0;
@@ -73,6 +85,11 @@ std::vector<std::string> PintaEsquema(Superficie& panel, const AjustesDibujo& aj
     }
     fallos.Intenta([&] { DibujaEtiquetas(panel, ajustes, elementos, false); });
     fallos.Intenta([&] { DibujaLineasSecundarias(panel, ajustes, elementos, colElementos); });
+    if (marcas) {
+        const PasoDePintado paso = [&](const std::function<void()>& accion) { fallos.Intenta(accion); };
+        PintaResaltado(panel, ajustes, *marcas, paso);
+        PintaMarcas(panel, ajustes, *marcas, paso);
+    }
     return std::move(fallos).Todos();
 }
 

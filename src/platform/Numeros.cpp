@@ -128,6 +128,13 @@ std::optional<double> NumeroCompleto(std::string_view texto) {
     return Valor<double>(tramo);
 }
 
+std::optional<double> NumeroDeUsuario(std::string_view texto) {
+    std::string conPunto(texto);
+    const std::size_t coma = conPunto.find(',');
+    if (coma != std::string::npos) conPunto[coma] = '.';
+    return NumeroCompleto(conPunto);
+}
+
 // The floating-point environment's rounding, to nearest and half to even, is never changed here.
 double RedondeaPar(double valor) noexcept {
     return std::nearbyint(valor);

@@ -25,6 +25,9 @@ float RealInicial(std::string_view texto);
 // The value of a text that is a number from end to end, blanks around it aside; nothing otherwise.
 std::optional<double> NumeroCompleto(std::string_view texto);
 
+// What a user has typed as a number: the same, with "." or "," as its decimal sign.
+std::optional<double> NumeroDeUsuario(std::string_view texto);
+
 double RedondeaPar(double valor) noexcept;
 
 // Rounded; fail with 6 when the result does not fit.

@@ -116,8 +116,8 @@ class Superficie {
     // One dot of one pixel.
     virtual void PSet(PuntoXY punto, std::int32_t color) = 0;
 
-    // A picture from its top left corner, that wide and high; with Y growing upwards a negative height reaches
-    // down.
+    // A picture from its top left corner, that wide and high; with Y growing upwards a negative height
+    // reaches down.
     virtual void PaintPicture(const Imagen& imagen, PuntoXY esquina, float ancho, float alto) = 0;
 
     // Text in ForeColor with its top left corner at (CurrentX, CurrentY); DrawMode does not affect it.

@@ -21,8 +21,9 @@ struct Limites {
     }
 };
 
-constexpr Limites MUNDO_X{-4000, 5000000};
-constexpr Limites MUNDO_Y{-5000, 2500000};
+constexpr Limites MUNDO_X{MUNDO_XMIN, MUNDO_XMAX};
+constexpr Limites MUNDO_Y{MUNDO_YMIN, MUNDO_YMAX};
+
 bool TieneTrazado(const Elemento& e) noexcept {
     return TipoConocido(e.Tipo()) && EsLineal(e.Tipo());
 }
@@ -68,6 +69,19 @@ bool LimitaAlMundo(Marco& marco) noexcept {
         DaUnidad(MUNDO_X, marco.Xmin, marco.Xmax);
         DaUnidad(MUNDO_Y, marco.Ymin, marco.Ymax);
     }
+    return limitado;
+}
+
+bool CreceEnElMundo(Marco& region, const Marco& visible) noexcept {
+    bool limitado = false;
+    const auto crece = [&](const Limites& mundo, float& minimo, float& maximo, float desde, float hasta) {
+        if (desde < minimo) minimo = desde;
+        if (hasta > maximo) maximo = hasta;
+        limitado = mundo.Limita(minimo) || limitado;
+        limitado = mundo.Limita(maximo) || limitado;
+    };
+    crece(MUNDO_X, region.Xmin, region.Xmax, visible.Xmin, visible.Xmax);
+    crece(MUNDO_Y, region.Ymin, region.Ymax, visible.Ymin, visible.Ymax);
     return limitado;
 }
 

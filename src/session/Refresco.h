@@ -8,26 +8,30 @@ namespace zel {
 // panel draws only while bPintado is set.
 class Refresco {
   public:
+    struct Marcas {
+        bool bRefrescoPendiente = false;
+        bool bPintado = true;
+    };
+
     explicit Refresco(Superficie& panel) noexcept : panel_(panel) {}
 
-    void AnularRefresco() noexcept { bRefrescoPendiente_ = bPintado_ = false; }
-    void PedirRefresco() noexcept {
-        bRefrescoPendiente_ = true;
-        bPintado_ = false;
-    }
+    void AnularRefresco() noexcept { marcas_ = {false, false}; }
+    void PedirRefresco() noexcept { marcas_ = {true, false}; }
     void RefrescarSiPendiente() {
-        if (!bRefrescoPendiente_) return;
-        bRefrescoPendiente_ = false;
-        bPintado_ = true;
+        if (!marcas_.bRefrescoPendiente) return;
+        marcas_ = {false, true};
         panel_.Refresh();
     }
-    bool bPintado() const noexcept { return bPintado_; }
-    bool bRefrescoPendiente() const noexcept { return bRefrescoPendiente_; }
+    bool bPintado() const noexcept { return marcas_.bPintado; }
+    bool bRefrescoPendiente() const noexcept { return marcas_.bRefrescoPendiente; }
+
+    // For who has to leave both as they were.
+    const Marcas& marcas() const noexcept { return marcas_; }
+    void marcas(const Marcas& valor) noexcept { marcas_ = valor; }
 
   private:
     Superficie& panel_;
-    bool bRefrescoPendiente_ = false;
-    bool bPintado_ = true;
+    Marcas marcas_;
 };
 
 }  // namespace zel

@@ -53,8 +53,10 @@ void Vista::PrimeraDisposicion() {
 }
 
 void Vista::Dispone(float ancho, float alto) try {
+    refresco_.AnularRefresco();
     bVistaActualizada_ = false;
     refresco_.PedirRefresco();
+    trabajo_.trazadoTemporal.reset();
     if (!(ancho > 0) || !(alto > 0)) return;
     if (anchoPanel_ == 0) {
         panel_.ScaleWidth(ancho);
@@ -66,8 +68,7 @@ void Vista::Dispone(float ancho, float alto) try {
         panel_.ScaleWidth(ancho * unidadesPorMm);
         panel_.ScaleHeight(-alto * unidadesPorMm);
         escalaDibujo_ = escalaDibujo_ / anterior * panel_.ScaleWidth();
-        PonAreaActiva(areaActiva_);
-        MuestraZoom();
+        MuestraZoom(false);
     }
     anchoPanel_ = ancho;
     relacionAspecto_ = std::abs(panel_.ScaleWidth() / panel_.ScaleHeight());
@@ -92,8 +93,28 @@ void Vista::PonAreaActiva(float area) noexcept {
     zoom_ = std::abs(panel_.ScaleWidth() * panel_.ScaleHeight()) / areaActiva_;
 }
 
-void Vista::MuestraZoom() {
-    anfitrion_.TextoEstado(4, "Región mostrada: " + TextoDeNumero(RedondeaPar(double{zoom_} * 100)) + " %");
+void Vista::EscribeZoom(bool limitado) {
+    anfitrion_.TextoEstado(4, "Región mostrada: " + TextoDeNumero(RedondeaPar(double{zoom_} * 100)) + " %" +
+                                  (limitado ? " Máxima región de dibujo" : ""));
+}
+
+void Vista::MuestraZoom(bool limitado) {
+    PonAreaActiva(areaActiva_);
+    EscribeZoom(limitado);
+}
+
+bool Vista::IncluyeLaVista() noexcept {
+    return CreceEnElMundo(regionElementos_, Marco::Visible(panel_));
+}
+
+bool Vista::RegionFueraDelMundo() const noexcept {
+    Marco dentro = regionElementos_;
+    return LimitaAlMundo(dentro);
+}
+
+void Vista::MuestraElMundo() {
+    regionElementos_ = MarcoDelMundo();
+    MueveScroll((MUNDO_XMIN + MUNDO_XMAX) / 2, (MUNDO_YMIN + MUNDO_YMAX) / 2, 1);
 }
 
 // The current centre, pulled inside the elements' region.
@@ -152,7 +173,7 @@ bool Vista::AjustarZoomUsuario(Superficie& picture, float z, bool bMantenerCentr
     picture.ScaleWidth(s);
     picture.ScaleHeight(-std::abs(s / relacionAspecto_));
     zoom_ = z;
-    MuestraZoom();
+    EscribeZoom(false);
     MueveScroll(centro.X, centro.Y, modo);
     return true;
 } catch (...) {

@@ -16,8 +16,8 @@ namespace zel {
 // the scale's unit before the first layout is a millimetre of the panel.
 class Vista {
   public:
-    Vista(Superficie& panel, const Documento& documento, const Trabajo& trabajo, Refresco& refresco,
-          Avisos& avisos, Anfitrion& anfitrion) noexcept
+    Vista(Superficie& panel, const Documento& documento, Trabajo& trabajo, Refresco& refresco, Avisos& avisos,
+          Anfitrion& anfitrion) noexcept
         : panel_(panel),
           documento_(documento),
           trabajo_(trabajo),
@@ -54,6 +54,16 @@ class Vista {
     std::int16_t CalculaRegionActiva(Superficie& picture, bool bRegionActiva,
                                      const Elementos* elementos = nullptr, bool bForzar = false);
 
+    // Grows RegionElementos to hold what is shown; true when the view reaches beyond the world.
+    bool IncluyeLaVista() noexcept;
+    bool RegionFueraDelMundo() const noexcept;
+    // The whole world as the elements' region, seen around its middle.
+    void MuestraElMundo();
+    // Recomputes the zoom from what is shown and tells it; `limitado`: that this is the most there is.
+    void MuestraZoom(bool limitado);
+
+    // Text sizes follow it. Whoever changes it for a picture sets it back.
+    void EscalaDibujo(float valor) noexcept { escalaDibujo_ = valor; }
     float EscalaDibujo() const noexcept { return escalaDibujo_; }
     float RelacionAspecto() const noexcept { return relacionAspecto_; }
     const Marco& RegionElementos() const noexcept { return regionElementos_; }
@@ -67,12 +77,12 @@ class Vista {
   private:
     void PrimeraDisposicion();
     void PonAreaActiva(float area) noexcept;
-    void MuestraZoom();
+    void EscribeZoom(bool limitado);
     PuntoXY CentroDentro() const noexcept;
 
     Superficie& panel_;
     const Documento& documento_;
-    const Trabajo& trabajo_;
+    Trabajo& trabajo_;
     Refresco& refresco_;
     Avisos& avisos_;
     Anfitrion& anfitrion_;

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "drawing/AjustesDibujo.h"
+#include "model/Elementos.h"
+
+namespace zel {
+
+// What the user has in hand, as far as a paint shows it on top of the schematic.
+struct Marcas {
+    const Elemento* elemSeleccionado = nullptr;
+    const Elementos* elemSubsistema = nullptr;
+    const Puntos* trazadoNuevo = nullptr;
+    const Puntos* trazadoNuevo2 = nullptr;
+    const Punto* puntoReferencia = nullptr;
+    const Puntos* curvaSeleccion = nullptr;
+    std::int32_t numeroDeCentral = 1;  // of the plant being drawn
+};
+
+// Runs one step of a paint; a step that fails must not keep the others from being drawn.
+using PasoDePintado = std::function<void(const std::function<void()>&)>;
+
+// The highlight of the selected element, or of those being chosen one by one, as the state asks for.
+void PintaResaltado(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& marcas,
+                    const PasoDePintado& paso);
+// What the state has of its own: the trace being drawn, the trace points to pick, the lasso.
+void PintaMarcas(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& marcas,
+                 const PasoDePintado& paso);
+
+}  // namespace zel

@@ -1,0 +1,134 @@
+#include "editing/GestosDeVista.h"
+
+#include <cmath>
+
+#include "model/Mensajes.h"
+#include "model/modErrorHandling.h"
+#include "platform/Dialogos.h"
+#include "platform/Numeros.h"
+
+namespace zel {
+
+namespace {
+
+constexpr std::int16_t NO_ES_NUMERO = 106;
+constexpr std::int16_t VALOR_INCORRECTO = 107;
+constexpr std::int32_t PREGUNTA_ZOOM = 5127;
+
+std::shared_ptr<Puntos> Cadena(std::initializer_list<PuntoXY> puntos) {
+    auto cadena = std::make_shared<Puntos>();
+    for (const PuntoXY p : puntos)
+        cadena->Add(p.X, p.Y);
+    return cadena;
+}
+
+}  // namespace
+
+GestosDeVista::GestosDeVista(Superficie& panel, Trabajo& trabajo, Refresco& refresco, Vista& vista,
+                             Avisos& avisos, MaquinaEstados& estados, std::function<void()> dispone)
+    : panel_(panel),
+      trabajo_(trabajo),
+      refresco_(refresco),
+      vista_(vista),
+      avisos_(avisos),
+      estados_(estados),
+      dispone_(std::move(dispone)) {}
+
+void GestosDeVista::EmpiezaBanda(float x, float y) {
+    if (trabajo_.iEstado == E_MANO)
+        trabajo_.trazadoTemporal = Cadena({{x, y}, {panel_.ScaleLeft() - x, panel_.ScaleTop() - y}, {x, y}});
+    else
+        trabajo_.trazadoTemporal = Cadena({{x, y}, {x, y}});
+    DibujaBanda();
+}
+
+void GestosDeVista::DibujaBanda() const {
+    const auto punto = [&](std::int32_t i) -> PuntoXY {
+        const auto p = trabajo_.trazadoTemporal->Item(i);
+        return {p->XPos(), p->YPos()};
+    };
+    panel_.DrawMode(Superficie::MODO_INVERTIR);
+    if (trabajo_.iEstado == E_MANO)
+        panel_.Line(punto(1), punto(3));
+    else
+        panel_.Caja(punto(1), punto(2));
+}
+
+void GestosDeVista::MueveBanda(float x, float y) {
+    const std::int32_t ultimo = trabajo_.iEstado == E_MANO ? 3 : 2;
+    if (!trabajo_.trazadoTemporal || trabajo_.trazadoTemporal->Count() != ultimo) {
+        if (trabajo_.iEstado != E_MANO) estados_.Estado(E_PREPARADO, 1);
+        return;
+    }
+    DibujaBanda();
+    const auto punto = trabajo_.trazadoTemporal->Item(ultimo);
+    punto->XPos(x);
+    punto->YPos(y);
+    DibujaBanda();
+}
+
+void GestosDeVista::E_18_AplicaZoom() try {
+    const std::shared_ptr<Puntos> recuadro = trabajo_.trazadoTemporal;
+    if (!recuadro || recuadro->Count() != 2) {
+        estados_.Estado(E_PREPARADO, 1);
+        return;
+    }
+    if (vista_.RelacionAspecto() == 0) dispone_();
+    const double aspecto = vista_.RelacionAspecto();
+    const auto a = recuadro->Item(1);
+    const auto b = recuadro->Item(2);
+    double w = std::abs(double{b->XPos()} - a->XPos());
+    double h = std::abs(double{b->YPos()} - a->YPos());
+    if (w == 0 && h == 0) {
+        estados_.Estado(E_PREPARADO, 1);
+        return;
+    }
+    if (w == 0) w = h * aspecto;
+    if (h == 0) h = w / aspecto;
+    if (w / h > aspecto)
+        h = w / aspecto;
+    else
+        w = h * aspecto;
+    const auto cx = static_cast<float>((double{a->XPos()} + b->XPos()) / 2);
+    const auto cy = static_cast<float>((double{a->YPos()} + b->YPos()) / 2);
+    refresco_.AnularRefresco();
+    if (!vista_.AjustarZoomUsuario(panel_, static_cast<float>(w * h / vista_.AreaActiva()), false, true, 2)) {
+        return;
+    }
+    estados_.Estado(E_PREPARADO, 1);
+    vista_.MueveScroll(cx, cy, 1);
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". E_18_AplicaZoom (Esquema)");
+}
+
+void GestosDeVista::E_19_Aplica() try {
+    const std::shared_ptr<Puntos> arrastre = trabajo_.trazadoTemporal;
+    if (!arrastre || arrastre->Count() != 3) return;
+    trabajo_.trazadoTemporal.reset();
+    const float dx = arrastre->Item(3)->XPos() - arrastre->Item(1)->XPos();
+    const float dy = arrastre->Item(3)->YPos() - arrastre->Item(1)->YPos();
+    vista_.MueveScroll(panel_.ScaleLeft() - dx + panel_.ScaleWidth() / 2,
+                       panel_.ScaleTop() - dy - std::abs(panel_.ScaleHeight()) / 2, 1);
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrE_19_Aplica (Esquema)");
+}
+
+void GestosDeVista::ZoomDelUsuario() {
+    std::int32_t iRefrescar = 1;
+    const auto respuesta = dialogos().InputBox(std::string(TextoMensajeODesconocido(PREGUNTA_ZOOM)), {},
+                                               TextoDeNumero(RedondeaPar(double{vista_.Zoom()} * 100)));
+    if (!respuesta || respuesta->empty()) return;
+    const auto porcentaje = NumeroDeUsuario(*respuesta);
+    if (!porcentaje) {
+        avisos_.LanzaMensaje(NO_ES_NUMERO, 0, iRefrescar);
+        return;
+    }
+    const double z = *porcentaje / 100;
+    if (z < 0.01) {
+        avisos_.LanzaMensaje(VALOR_INCORRECTO, 0, iRefrescar);
+        return;
+    }
+    vista_.AjustarZoomUsuario(panel_, static_cast<float>(z), false, true, 2);
+}
+
+}  // namespace zel

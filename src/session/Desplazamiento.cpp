@@ -1,0 +1,152 @@
+#include "session/Desplazamiento.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "model/Mensajes.h"
+#include "model/modErrorHandling.h"
+#include "platform/Guardia.h"
+#include "platform/Numeros.h"
+
+namespace zel {
+
+namespace {
+
+constexpr std::int32_t FIN_DE_LA_BARRA = 5228;
+constexpr double RECORRIDO_MINIMO = 6;
+
+// One axis of the view: the ends of its bar, first and last, and what it shows, all in world units.
+struct Recorrido {
+    double primero, ultimo;
+    double posicion;
+    double visible;  // length shown
+};
+
+std::int16_t Paso(double visible, double recorrido) {
+    const double medio = std::floor(visible / 2);
+    if (medio < 1 || recorrido <= 0) return 1;
+    return Estrecha16(static_cast<std::int64_t>(std::min(medio, recorrido)));
+}
+
+// Fails with 6 when 16 bits do not hold it.
+BarraDesplazamiento::Estado EstadoDe(const Recorrido& r, bool limitado) {
+    if (limitado) {
+        const std::int16_t fija = Entero16(r.posicion);
+        return {fija, fija, 1, fija};
+    }
+    const std::int16_t primero = Entero16(std::floor(r.primero));
+    std::int16_t ultimo = Entero16(std::floor(r.ultimo));
+    if (std::abs(ultimo - primero) < RECORRIDO_MINIMO) ultimo = primero;
+    const std::int16_t posicion = Entero16(std::floor(r.posicion));
+    const auto [menor, mayor] = std::minmax(primero, ultimo);
+    const bool dentro = menor <= posicion && posicion <= mayor;
+    // The last position, missed by the rounding of the view's edge.
+    const bool alFinal = posicion == (ultimo >= primero ? ultimo + 1 : ultimo - 1);
+    return {primero, ultimo, Paso(r.visible, std::abs(ultimo - primero)),
+            dentro    ? posicion
+            : alFinal ? ultimo
+                      : primero};
+}
+
+}  // namespace
+
+Desplazamiento::Desplazamiento(Superficie& panel, Vista& vista, Trabajo& trabajo, Refresco& refresco,
+                               Anfitrion& anfitrion, BarraDesplazamiento& horizontal,
+                               BarraDesplazamiento& vertical) noexcept
+    : panel_(panel),
+      vista_(vista),
+      trabajo_(trabajo),
+      refresco_(refresco),
+      anfitrion_(anfitrion),
+      horizontal_{horizontal, false},
+      vertical_{vertical, true} {}
+
+// From one look at the view: setting the first bar must not change what the second is computed from.
+void Desplazamiento::PonBarras(bool limitado) {
+    const Marco& region = vista_.RegionElementos();
+    const Superficie::Escala v = panel_.escala();
+    const double alto = std::abs(double{v.Height});
+    const auto h = EstadoDe({region.Xmin, double{region.Xmax} - v.Width, v.Left, v.Width}, limitado);
+    const auto w = EstadoDe({region.Ymax, double{region.Ymin} + alto, v.Top, alto}, limitado);
+    for (const auto& [eje, estado] : {std::pair(&horizontal_, h), std::pair(&vertical_, w)}) {
+        const bool cambia = eje->barra.Actual().Value != estado.Value;
+        eje->barra.Pon(estado);
+        eje->barra.Enabled(true);
+        if (cambia) Change(*eje);
+    }
+}
+
+std::optional<std::string> Desplazamiento::ActualizaVista(std::int16_t modo) {
+    if (enCurso_) return std::nullopt;
+    const Guardia enCurso(enCurso_, true);
+    const Guardia actualizando(bActualizandoScroll_, modo != 1, false);
+    const Refresco::Marcas marcas = refresco_.marcas();
+    std::optional<std::string> aviso;
+    try {
+        if (vista_.RegionFueraDelMundo()) {
+            vista_.MuestraElMundo();
+            return std::nullopt;
+        }
+        const bool limitado = vista_.IncluyeLaVista();
+        vista_.MuestraZoom(limitado);
+        PonBarras(limitado);
+        noCabe_ = false;
+    } catch (...) {
+        horizontal_.barra.Enabled(false);
+        vertical_.barra.Enabled(false);
+        if (!noCabe_) aviso = FalloEnCurso().Description();
+        noCabe_ = true;
+    }
+    refresco_.marcas(marcas);
+    return aviso;
+}
+
+void Desplazamiento::Mueve(const Eje& eje) {
+    panel_.ScaleHeight(-std::abs(panel_.ScaleHeight()));
+    const float posicion = eje.barra.Actual().Value;
+    if (eje.esVertical)
+        panel_.ScaleTop(posicion);
+    else
+        panel_.ScaleLeft(posicion);
+}
+
+void Desplazamiento::Change(Eje& eje) {
+    if (bActualizandoScroll_) refresco_.AnularRefresco();
+    Mueve(eje);
+    const auto estado = eje.barra.Actual();
+    const bool enBorde = estado.Value == estado.Min || estado.Value == estado.Max;
+    if (enBorde && !eje.bEnBordeScroll && !bActualizandoScroll_) {
+        anfitrion_.TextoEstado(1, std::string(TextoMensajeODesconocido(FIN_DE_LA_BARRA)));
+    }
+    eje.bEnBordeScroll = enBorde;
+    refresco_.PedirRefresco();
+    if (!bActualizandoScroll_) refresco_.RefrescarSiPendiente();
+    trabajo_.trazadoTemporal.reset();
+}
+
+void Desplazamiento::Scroll(Eje& eje) {
+    if (bActualizandoScroll_) refresco_.AnularRefresco();
+    vista_.bVistaActualizada(false);
+    Mueve(eje);
+    refresco_.PedirRefresco();
+    if (!bActualizandoScroll_) refresco_.RefrescarSiPendiente();
+    trabajo_.trazadoTemporal.reset();
+}
+
+void Desplazamiento::HScroll_Change() try { Change(horizontal_); } catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrHScroll_Change (Esquema)");
+}
+
+void Desplazamiento::HScroll_Scroll() try { Scroll(horizontal_); } catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrHScroll_Scroll (Esquema)");
+}
+
+void Desplazamiento::VScroll_Change() try { Change(vertical_); } catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrVScroll_Change (Esquema)");
+}
+
+void Desplazamiento::VScroll_Scroll() try { Scroll(vertical_); } catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrVScroll_Scroll (Esquema)");
+}
+
+}  // namespace zel

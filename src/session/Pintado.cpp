@@ -1,0 +1,145 @@
+#include "session/Pintado.h"
+
+#include <algorithm>
+
+#include "drawing/Resaltado.h"
+#include "model/modErrorHandling.h"
+#include "platform/Dialogos.h"
+#include "platform/Guardia.h"
+#include "session/Ajustes.h"
+
+namespace zel {
+
+namespace {
+
+constexpr std::int32_t DIBUJANDO_CONDUCCION = 3;
+constexpr std::int32_t SUBSISTEMA = 12;
+constexpr std::size_t CAJAS_POR_PINTADO = 3;
+
+// Their outlines are on the panel alone: a repaint would wipe them.
+bool TieneContornos(std::int32_t iEstado) noexcept {
+    return iEstado == 11 || iEstado == 13 || iEstado == 14 || (iEstado >= 16 && iEstado <= 19);
+}
+
+}  // namespace
+
+Pintado::Pintado(Superficie& panel, Documento& documento, Trabajo& trabajo, Refresco& refresco, Vista& vista,
+                 Desplazamiento& desplazamiento, std::function<Fondo()> fondo)
+    : panel_(panel),
+      documento_(documento),
+      trabajo_(trabajo),
+      refresco_(refresco),
+      vista_(vista),
+      desplazamiento_(desplazamiento),
+      fondo_(std::move(fondo)) {}
+
+const Elementos& Pintado::ConjuntoPintado() const noexcept {
+    const bool parte = trabajo_.iEstado == SUBSISTEMA && trabajo_.elemSubsistema;
+    return parte ? *trabajo_.elemSubsistema : *documento_.colElementos;
+}
+
+Marcas Pintado::MarcasDelTrabajo() const {
+    Marcas marcas;
+    marcas.elemSeleccionado = trabajo_.elemSeleccionado.get();
+    marcas.elemSubsistema = trabajo_.elemSubsistema.get();
+    marcas.trazadoNuevo = trabajo_.trazadoNuevo.get();
+    marcas.trazadoNuevo2 = trabajo_.trazadoNuevo2.get();
+    marcas.puntoReferencia = trabajo_.puntoReferencia.get();
+    marcas.curvaSeleccion = trabajo_.curvaSeleccion.get();
+    marcas.numeroDeCentral = documento_.UltimoKeyPant[ctCentralHidroelectrica] + 1;
+    return marcas;
+}
+
+void Pintado::SueltaAjenos() noexcept {
+    const auto& e = trabajo_.elemSeleccionado;
+    if (e && !documento_.colElementos->Contiene(e.get())) trabajo_.elemSeleccionado.reset();
+}
+
+void Pintado::Panel_Paint() {
+    if (pintando_) return;
+    std::vector<std::string> fallos;
+    {
+        const Guardia pintando(pintando_, true);
+        desplazamiento_.bActualizandoScroll(false);
+        LlamadasARefresco_ = std::max<std::int16_t>(LlamadasARefresco_, 0);
+        SueltaAjenos();
+        if (auto aviso = desplazamiento_.ActualizaVista(2)) fallos.push_back(std::move(*aviso));
+        if (LlamadasARefresco_ == 0 && refresco_.bPintado()) {
+            const Guardia llamadas(LlamadasARefresco_, 1);
+            codSubrayado_ = 0;
+            if (trabajo_.iEstado == DIBUJANDO_CONDUCCION) trabajo_.trazadoTemporal.reset();
+            const Marcas marcas = MarcasDelTrabajo();
+            auto deDibujo = PintaEsquema(panel_, AjustesDe(trabajo_, documento_, vista_), ConjuntoPintado(),
+                                         *documento_.colElementos, fondo_(), &marcas);
+            std::move(deDibujo.begin(), deDibujo.end(), std::back_inserter(fallos));
+        }
+    }
+    Avisa(fallos);
+}
+
+// A box lets events through, so that a paint may come in the middle: what fails in that one is the same
+// again, and is not told.
+void Pintado::Avisa(const std::vector<std::string>& fallos) {
+    if (avisando_) return;
+    const Guardia avisando(avisando_, true);
+    const std::size_t cajas = std::min(fallos.size(), CAJAS_POR_PINTADO);
+    for (std::size_t i = 0; i < cajas; ++i) {
+        std::string texto = fallos[i];
+        if (i + 1 == CAJAS_POR_PINTADO && fallos.size() > cajas) {
+            texto += "\n\nHay " + std::to_string(fallos.size() - cajas) + " fallos más de dibujo.";
+        }
+        dialogos().MsgBox(texto);
+    }
+}
+
+void Pintado::UserControl_Paint() {
+    if (TieneContornos(trabajo_.iEstado)) return;
+    refresco_.PedirRefresco();
+    refresco_.RefrescarSiPendiente();
+}
+
+void Pintado::PintaSinMarcas() {
+    codSubrayado_ = 0;
+    Avisa(PintaEsquema(panel_, AjustesDe(trabajo_, documento_, vista_), *documento_.colElementos,
+                       *documento_.colElementos, fondo_()));
+}
+
+void Pintado::SombreaElemento(const std::shared_ptr<Elemento>& e) {
+    zel::SombreaElemento(panel_, AjustesDe(trabajo_, documento_, vista_), e.get());
+}
+
+void Pintado::DesSombreaElemeSelecc(const std::shared_ptr<Elemento>& e) try {
+    if (!e) return;
+    if (ResaltadoInvierte(e->Tipo())) {
+        SombreaElemento(e);
+        return;
+    }
+    if (trabajo_.elemSeleccionado && trabajo_.elemSeleccionado->gfCodSIG() == e->gfCodSIG()) {
+        trabajo_.elemSeleccionado.reset();
+    }
+    refresco_.PedirRefresco();
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrDesSombreaElemeSelecc (Esquema)");
+}
+
+void Pintado::SubrayaElem(std::int32_t codigo) try {
+    if (codigo == codSubrayado_) return;
+    AlternaSubrayado(codSubrayado_);
+    codSubrayado_ = codigo;
+    if (codigo == 0) return;
+    if (documento_.colElementos->ItemCodSIG(codigo))
+        AlternaSubrayado(codigo);
+    else
+        codSubrayado_ = 0;
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrSubrayaElem (Esquema)");
+}
+
+void Pintado::AlternaSubrayado(std::int32_t codigo) {
+    if (codigo == 0) return;
+    if (const auto e = documento_.colElementos->ItemCodSIG(codigo)) {
+        zel::AlternaSubrayado(panel_, AjustesDe(trabajo_, documento_, vista_), *e);
+    }
+}
+
+}  // namespace zel

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "drawing/Pintor.h"
+#include "session/Desplazamiento.h"
+#include "session/Documento.h"
+#include "session/Refresco.h"
+#include "session/Trabajo.h"
+#include "session/Vista.h"
+
+namespace zel {
+
+// Painting the panel, and the marks that come and go between two paints.
+class Pintado {
+  public:
+    // `fondo` tells the background picture of the moment.
+    Pintado(Superficie& panel, Documento& documento, Trabajo& trabajo, Refresco& refresco, Vista& vista,
+            Desplazamiento& desplazamiento, std::function<Fondo()> fondo);
+
+    // Repaints the whole panel when that was asked for (bPintado); otherwise it only brings the scroll bars
+    // up to date. Inside itself it does nothing. What could not be drawn is told in boxes once it is over,
+    // at most three, the last with the number of those left out.
+    void Panel_Paint();
+    // The control itself is to be repainted; not in the middle of a drag, whose outlines it would wipe.
+    void UserControl_Paint();
+    // Paints the schematic alone, without marks.
+    void PintaSinMarcas();
+
+    // What a paint shows: the subsystem while one is selected, else the schematic.
+    const Elementos& ConjuntoPintado() const noexcept;
+
+    void SombreaElemento(const std::shared_ptr<Elemento>& e);
+    // Removes a highlight. A conduit's cannot be removed by drawing it again: the selection goes instead, and
+    // a repaint is asked for.
+    void DesSombreaElemeSelecc(const std::shared_ptr<Elemento>& e);
+    // Moves the underline of the element below the mouse; 0 for none.
+    void SubrayaElem(std::int32_t codigo);
+    void AlternaSubrayado(std::int32_t codigo);
+
+    // A selection that is no element of the schematic any more is dropped.
+    void SueltaAjenos() noexcept;
+
+  private:
+    Marcas MarcasDelTrabajo() const;
+    void Avisa(const std::vector<std::string>& fallos);
+
+    Superficie& panel_;
+    Documento& documento_;
+    Trabajo& trabajo_;
+    Refresco& refresco_;
+    Vista& vista_;
+    Desplazamiento& desplazamiento_;
+    std::function<Fondo()> fondo_;
+    std::int16_t LlamadasARefresco_ = 0;
+    bool pintando_ = false;
+    bool avisando_ = false;
+    std::int32_t codSubrayado_ = 0;
+};
+
+}  // namespace zel
