@@ -4,14 +4,12 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMenuBar>
-#include <QStatusBar>
 #include <QWheelEvent>
 #include <cmath>
 
-#include "Carga.h"
 #include "control/Esquema.h"
+#include "file/lectorArchivo.h"
 #include "platform/Dialogos.h"
 
 namespace zel {
@@ -43,32 +41,28 @@ void DiloSiFalla(Accion accion) {
 
 }  // namespace
 
-VentanaPrincipal::VentanaPrincipal() : esquema_(new Esquema(this)), region_(new QLabel(this)) {
+VentanaPrincipal::VentanaPrincipal() : esquema_(new Esquema(this)) {
     setCentralWidget(esquema_);
-    statusBar()->addPermanentWidget(region_);
-    connect(esquema_, &Esquema::TextoEstado, this, [this](int panel, const QString& texto) {
-        if (panel == 4) region_->setText(texto);
+    connect(esquema_, &Esquema::ErrorEnEvento, this, [](qint32, const QString&, const QString& descripcion) {
+        dialogos().MsgBox(descripcion.toStdString());
     });
-    connect(esquema_, &Esquema::FallosDeDibujo, this, [this](const QStringList& fallos) {
-        if (fallos.isEmpty())
-            statusBar()->clearMessage();
-        else
-            statusBar()->showMessage(
-                tr("No se ha podido dibujar todo (%1): %2").arg(fallos.size()).arg(fallos.first()));
-    });
-    connect(esquema_, &Esquema::ErrorEnEvento, this,
-            [this](qint32, const QString&, const QString& descripcion) {
-                statusBar()->showMessage(descripcion);
-            });
     CreaMenus();
     setWindowTitle(QGuiApplication::applicationDisplayName());
     resize(1280, 860);
+    esquema_->setFocus();
 }
 
 void VentanaPrincipal::CreaMenus() {
     QMenu* archivo = menuBar()->addMenu(tr("&Archivo"));
     archivo->addAction(tr("&Abrir..."), QKeySequence::Open, this,
                        [this] { DiloSiFalla([this] { PreguntaYAbre(); }); });
+    archivo->addAction(tr("&Guardar"), QKeySequence::Save, this, [this] {
+        if (ruta_.isEmpty())
+            GuardaComo();
+        else
+            Guarda(ruta_);
+    });
+    archivo->addAction(tr("Guardar &como..."), QKeySequence::SaveAs, this, [this] { GuardaComo(); });
     archivo->addSeparator();
     archivo->addAction(tr("&Salir"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
     QMenu* ver = menuBar()->addMenu(tr("&Ver"));
@@ -78,6 +72,10 @@ void VentanaPrincipal::CreaMenus() {
                    [this] { DiloSiFalla([this] { esquema_->CambiaZoom(ALEJA); }); });
     ver->addAction(tr("&Todo el esquema"), QKeySequence(Qt::Key_Home), this,
                    [this] { DiloSiFalla([this] { esquema_->ResizeGrafo(); }); });
+    ver->addSeparator();
+    for (const char* orden : {"menuVisorImagen", "menuVisorQuitarImagen"}) {
+        if (auto* accion = esquema_->findChild<QAction*>(QString::fromLatin1(orden))) ver->addAction(accion);
+    }
 }
 
 void VentanaPrincipal::PreguntaYAbre() {
@@ -86,28 +84,62 @@ void VentanaPrincipal::PreguntaYAbre() {
 }
 
 void VentanaPrincipal::Abre(const QString& ruta) {
-    const EsquemaLeido leido = [&] {
-        const CursorDeEspera espera;
-        return LeeEsquema(ruta.toStdString());
-    }();
-    if (!leido.elementos) {
-        dialogos().MsgBox("No se puede abrir \"" + ruta.toStdString() + "\": " + leido.motivo +
+    const auto noSeAbre = [&](const std::string& motivo) {
+        dialogos().MsgBox("No se puede abrir \"" + ruta.toStdString() + "\": " + motivo +
                           ".\n\nCompruebe la ruta y que el archivo es un esquema en XML.");
+    };
+    lectorArchivo lector;
+    lector.NombreArchivo(ruta.toStdString());
+    const std::string motivo = lector.MotivoParaNoAbrir();
+    if (!motivo.empty()) {
+        noSeAbre(motivo);
         return;
     }
-    esquema_->GetElementos(leido.elementos);
-    esquema_->ResizeGrafo();
+    // What is begun with one schematic must not go on with the other.
+    menuBar()->setEnabled(false);
+    std::string fallo;
+    try {
+        const CursorDeEspera espera;
+        esquema_->ArchivoAbrir(ruta);
+    } catch (const Fallo& error) {
+        fallo = error.Description();
+    }
+    menuBar()->setEnabled(true);
+    if (!fallo.empty()) {
+        esquema_->Refresh();
+        noSeAbre(fallo);
+        return;
+    }
+    PonRuta(ruta);
+    DiProblemas();
+}
+
+void VentanaPrincipal::PonRuta(const QString& ruta) {
+    ruta_ = ruta;
     setWindowTitle(QFileInfo(ruta).fileName() + QStringLiteral(" - ") +
                    QGuiApplication::applicationDisplayName());
-    if (leido.problemas.empty()) return;
-    std::string aviso = "El esquema se ha abierto, pero faltaban datos o se repetían.";
-    if (leido.conRegistro) {
-        aviso += " Consulte el archivo " +
-                 QDir::current().filePath(QStringLiteral("ErroresCarga.log")).toStdString() + ".";
-    } else {
-        aviso += leido.problemas;
+}
+
+void VentanaPrincipal::DiProblemas() {
+    if (esquema_->ProblemasDeCarga().isEmpty()) return;
+    dialogos().MsgBox("El esquema se ha abierto, pero faltaban datos o se repetían. Consulte el archivo " +
+                      QDir::current().filePath(QStringLiteral("ErroresCarga.log")).toStdString() + ".");
+}
+
+void VentanaPrincipal::Guarda(const QString& ruta) {
+    try {
+        esquema_->ArchivoGuardar(ruta);
+        PonRuta(ruta);
+    } catch (const Fallo& error) {
+        dialogos().MsgBox("No se puede guardar \"" + ruta.toStdString() + "\": " + error.Description() +
+                          ".\n\nEl archivo que hubiera con ese nombre sigue como estaba.");
     }
-    dialogos().MsgBox(aviso);
+}
+
+void VentanaPrincipal::GuardaComo() {
+    const auto ruta = dialogos().ArchivoGuardar("Guardar esquema", "Esquemas|*.xml|Todos los archivos|*.*",
+                                                ruta_.toStdString());
+    if (ruta) Guarda(QString::fromStdString(*ruta));
 }
 
 // A closer view for each notch away from the user; a touchpad sends parts of a notch.

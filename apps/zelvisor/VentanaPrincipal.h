@@ -2,8 +2,6 @@
 
 #include <QMainWindow>
 
-class QLabel;
-
 namespace zel {
 
 class Esquema;
@@ -17,6 +15,8 @@ class VentanaPrincipal : public QMainWindow {
     // Opens a file and shows the whole schematic. When it cannot be read a box says why and what was open
     // stays.
     void Abre(const QString& ruta);
+    // Saves what is shown; when that fails a box says why and the file stays as it was.
+    void Guarda(const QString& ruta);
 
   protected:
     void wheelEvent(QWheelEvent* evento) override;
@@ -25,13 +25,16 @@ class VentanaPrincipal : public QMainWindow {
   private:
     void CreaMenus();
     void PreguntaYAbre();
+    void GuardaComo();
+    void PonRuta(const QString& ruta);
+    void DiProblemas();
     void CambiaZoomConRueda(double muescas);
 
     // The direction in which the last turn of the wheel reached the end of the zoom.
     enum class Sentido { Ninguno, Cerca, Lejos };
 
     Esquema* esquema_;
-    QLabel* region_;
+    QString ruta_;  // of what is shown; empty before anything is opened
     Sentido negado_ = Sentido::Ninguno;
 };
 

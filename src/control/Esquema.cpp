@@ -1,125 +1,345 @@
 #include "control/Esquema.h"
 
+#include <QEvent>
 #include <QResizeEvent>
 #include <QShowEvent>
+#include <cmath>
+#include <vector>
 
-#include "control/PanelDibujo.h"
-#include "drawing/Pintor.h"
-#include "model/modErrorHandling.h"
-#include "session/Ajustes.h"
-#include "session/Vista.h"
+#include "control/PartesDelEsquema.h"
+#include "file/Formato.h"
+#include "platform/Guardia.h"
 
 namespace zel {
 
-struct Esquema::Partes : public Anfitrion {
-    explicit Partes(Esquema& dueno)
-        : esquema(dueno),
-          panel(new PanelDibujo(&dueno)),
-          refresco(panel->lienzo()),
-          avisos(trabajo, refresco),
-          vista(panel->lienzo(), documento, trabajo, refresco, avisos, *this) {
-        panel->lienzo().AlRefrescar([this] { Pinta(); });
-        panel->setGeometry(esquema.rect());
-        Dispone();
-        QObject::connect(panel, &PanelDibujo::Redimensionado, &esquema,
-                         [this] { EnEvento([this] { Dispone(); }); });
-    }
+namespace {
 
-    // The one boundary between the control's failures and the platform's events.
-    template <typename Accion>
-    void EnEvento(Accion accion) {
-        try {
-            accion();
-        } catch (...) {
-            const Fallo fallo = FalloEnCurso();
-            emit esquema.ErrorEnEvento(fallo.Number(), QString::fromStdString(fallo.Source()),
-                                       QString::fromStdString(fallo.Description()));
+constexpr std::int16_t VERDADERO = -1;
+constexpr std::int32_t NINGUNO = -1;
+
+bool EsEntrada(const QEvent& evento) {
+    switch (evento.type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::ShortcutOverride:
+        case QEvent::Wheel:
+        case QEvent::ContextMenu:
+        case QEvent::InputMethod:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+            return true;
+        default:
+            return false;
+    }
+}
+
+std::span<const std::int32_t> Lista(const QList<qint32>& valores) {
+    return {valores.data(), static_cast<std::size_t>(valores.size())};
+}
+
+}  // namespace
+
+Esquema::Esquema(QWidget* padre) : QFrame(padre) {
+    try {
+        partes_ = std::make_unique<Partes>(*this);
+        Partes& p = *partes_;
+        p.UserControl_Resize();
+        p.estados.Estado(E_PREPARADO, 1);
+        p.refresco.RefrescarSiPendiente();
+    } catch (...) {
+        LanzaErrorVisor(E_PREPARADO, ". ErrUserControl_Initialize (Esquema)");
+    }
+}
+
+// The parts go first: what they tell while they go is for nobody.
+Esquema::~Esquema() {
+    partes_->terminando = true;
+    partes_->panel->lienzo().AlRefrescar({});
+    partes_->panel->lienzo().AlCambiarPuntero({});
+    partes_->trabajo = {};
+    partes_->documento.colElementos.reset();
+    const QWidgetList partes = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    for (auto* parte : partes)
+        parte->disconnect(this);
+    partes_->imagen.SueltaFrame();
+    qDeleteAll(partes);
+    partes_.reset();
+}
+
+// --- Elements ---------------------------------------------------------------------------------------------
+
+qint32 Esquema::SeleccionaElemento(qint32 codigo, bool centrar, const char* sufijo) {
+    return Operacion(sufijo, [&](Partes& p) -> qint32 {
+        const auto e = p.documento.colElementos->ItemCodSIG(codigo);
+        if (e) {
+            p.trabajo.elemSeleccionado = e;
+            if (centrar) p.vista.MueveScroll(e->XPos(), e->YPos(), 2);
         }
-    }
+        p.refresco.RefrescarSiPendiente();
+        return e ? codigo : NINGUNO;
+    });
+}
 
-    void TextoEstado(int panelDeEstado, const std::string& texto) override {
-        emit esquema.TextoEstado(panelDeEstado, QString::fromStdString(texto));
-    }
+qint32 Esquema::Seleccionar(qint32 agfCodSig) {
+    return SeleccionaElemento(agfCodSig, false, ". Error en método público Seleccionar (Esquema)");
+}
 
-    void Dispone() {
-        vista.Dispone(panel->AnchoMm(), panel->AltoMm());
-        refresco.RefrescarSiPendiente();
-    }
+qint32 Esquema::SeleccionarCentrarElemento(qint32 agfCodSig) {
+    return SeleccionaElemento(agfCodSig, true,
+                              ". Error en método público SeleccionarCentrarElemento (Esquema)");
+}
 
-    void Pinta() {
-        const AjustesDibujo ajustes = AjustesDe(trabajo, documento, vista);
-        QStringList nuevos;
-        for (const auto& descripcion :
-             PintaEsquema(panel->lienzo(), ajustes, *documento.colElementos, *documento.colElementos)) {
-            nuevos << QString::fromStdString(descripcion);
+qint16 Esquema::BorrarElemento() {
+    return Operacion(". Error en método público BorrarElemento (Esquema)", [](Partes& p) {
+        std::int16_t resultado = VERDADERO;
+        if (p.trabajo.elemSeleccionado) {
+            p.documento.colElementos->RemoveCodSIG(p.trabajo.elemSeleccionado->gfCodSIG());
+            p.trabajo.elemSeleccionado.reset();
+            p.estados.Estado(E_PREPARADO, 1);
+            resultado = 0;
         }
-        panel->update();
-        if (nuevos == fallos) return;
-        fallos = nuevos;
-        emit esquema.FallosDeDibujo(fallos);
-    }
+        p.refresco.PedirRefresco();
+        p.refresco.RefrescarSiPendiente();
+        return resultado;
+    });
+}
 
-    Esquema& esquema;
-    PanelDibujo* panel;
-    Documento documento;
-    Trabajo trabajo;
-    Refresco refresco;
-    Avisos avisos;
-    Vista vista;
-    QStringList fallos;
-    bool seHaMostrado = false;
-    bool ajustaAlMostrar = false;
-};
+// The selected element as the collection knows it: by the key of its present code.
+std::shared_ptr<Elemento> Esquema::SeleccionadoParaCambiar(const char* sinSeleccion) const {
+    const Partes& p = *partes_;
+    const auto& e = p.trabajo.elemSeleccionado;
+    if (!e) LanzaErrorVisor(p.trabajo.iEstado, sinSeleccion);
+    auto encontrado = p.documento.colElementos->Item(std::to_string(e->gfCodSIG()));
+    if (!encontrado) throw Fallo(91);
+    return encontrado;
+}
 
-Esquema::Esquema(QWidget* padre) : QWidget(padre), partes_(std::make_unique<Partes>(*this)) {}
-Esquema::~Esquema() = default;
+QString Esquema::NombreElemento() const {
+    return Llamada(". Error en Property Get NombreElemento (Esquema)", [&] {
+        const auto& e = partes_->trabajo.elemSeleccionado;
+        return e ? QString::fromStdString(e->Nombre()) : QString();
+    });
+}
+
+void Esquema::NombreElemento(const QString& valor) {
+    Operacion(". Error en Property Let NombreElemento (Esquema)", [&](Partes& p) {
+        SeleccionadoParaCambiar(". Esquema: NombreElemento Property Let. No hay elemento seleccionado")
+            ->Nombre(valor.toStdString());
+        p.refresco.RefrescarSiPendiente();
+    });
+}
+
+qint32 Esquema::CodigoElemento() const {
+    return Llamada(". Error en Property Get CodigoElemento (Esquema)", [&] {
+        const auto& e = partes_->trabajo.elemSeleccionado;
+        return e ? e->gfCodSIG() : NINGUNO;
+    });
+}
+
+void Esquema::CodigoElemento(qint32 valor) {
+    Operacion(". Error en Property Let CodigoElemento (Esquema)", [&](Partes& p) {
+        SeleccionadoParaCambiar(". Esquema: CodigoElemento Property Let. No hay elemento seleccionado")
+            ->gfCodSIG(valor);
+        p.refresco.RefrescarSiPendiente();
+    });
+}
+
+qint16 Esquema::NumeroPantallaElemento() const {
+    return Llamada(". Error en Property Get NumeroPantallaElemento (Esquema)", [&]() -> qint16 {
+        const auto& e = partes_->trabajo.elemSeleccionado;
+        return e ? e->KeyPant() : VERDADERO;
+    });
+}
+
+void Esquema::NumeroPantallaElemento(qint16 valor) {
+    Operacion(". Error en Property Let NumeroPantallaElemento (Esquema)", [&](Partes& p) {
+        const auto e = SeleccionadoParaCambiar(
+            ". Esquema: NumeroPantallaElemento Property Let. No hay elemento seleccionado");
+        e->KeyPant(valor);
+        std::int16_t& ultimo = p.documento.KeyPantDe(e->Tipo());
+        ultimo = std::max(ultimo, valor);
+        p.refresco.RefrescarSiPendiente();
+    });
+}
+
+qint16 Esquema::TipoElemento() const {
+    return Llamada(". Error en Property Get TipoElemento (Esquema)", [&]() -> qint16 {
+        const auto& e = partes_->trabajo.elemSeleccionado;
+        if (!e) return VERDADERO;
+        if (!TipoConocido(e->Tipo())) throw Fallo(9);
+        return CODIGOS_DE_TIPO[static_cast<std::size_t>(e->Tipo())];
+    });
+}
+
+void Esquema::AnulaAgregarElementos() {
+    Operacion(". Error en método AnulaAgregarElementos (Esquema)", [](Partes& p) {
+        p.refresco.RefrescarSiPendiente();
+        p.toolBar1->Enabled(false);
+    });
+}
 
 std::shared_ptr<Elementos> Esquema::GetElementos() const {
     return partes_->documento.colElementos;
 }
 
-void Esquema::GetElementos(std::shared_ptr<Elementos> elementos) try {
-    if (!elementos) throw Fallo(91);
-    partes_->documento.colElementos = std::move(elementos);
-    partes_->refresco.PedirRefresco();
-    partes_->refresco.RefrescarSiPendiente();
-} catch (...) {
-    LanzaErrorVisor(partes_->trabajo.iEstado, ". Error en Property Set GetElementos (Esquema)");
+void Esquema::GetElementos(std::shared_ptr<Elementos> elementos) {
+    Llamada(". Error en Property Set GetElementos (Esquema)", [&] {
+        Partes& p = *partes_;
+        p.comandos.PonColeccion(std::move(elementos));
+        p.estados.Estado(E_PREPARADO, 1);
+        p.refresco.PedirRefresco();
+        p.refresco.RefrescarSiPendiente();
+    });
 }
 
-void Esquema::ResizeGrafo() {
+void Esquema::SetElementos(std::shared_ptr<Elementos> elementos) {
+    Llamada(". Error en Property Set SetElementos (Esquema)",
+            [&] { partes_->comandos.PonColeccion(std::move(elementos)); });
+}
+
+// --- Documents --------------------------------------------------------------------------------------------
+
+void Esquema::ArchivoAbrir(const QString& archNombre) {
+    partes_->ExigeDisposicion();
     partes_->ajustaAlMostrar = !partes_->seHaMostrado;
-    partes_->vista.AjustarImagen(partes_->panel->lienzo(), 1);
+    partes_->comandos.ArchivoAbrir(archNombre.toStdString());
+}
+
+void Esquema::ArchivoGuardar(const QString& archNombre) {
+    partes_->pintado.SueltaAjenos();
+    partes_->comandos.ArchivoGuardar(archNombre.toStdString());
+}
+
+QString Esquema::MotivoSinLeer() const {
+    return QString::fromStdString(partes_->comandos.MotivoSinLeer());
+}
+
+QString Esquema::ProblemasDeCarga() const {
+    return QString::fromStdString(partes_->comandos.ProblemasDeCarga());
+}
+
+void Esquema::AddElemento(const std::shared_ptr<Elemento>& elem) {
+    if (!elem) throw Fallo(91);
+    partes_->comandos.AddElemento(*elem);
+}
+
+bool Esquema::ModificaVarios_NumUser(const QList<qint32>& aiCodSig, const QList<qint32>& aiNums) {
+    return partes_->comandos.ModificaVarios_NumUser(Lista(aiCodSig), Lista(aiNums));
+}
+
+bool Esquema::ModificaVarios_Nombres(const QList<qint32>& aiCodGIS, const QStringList& asNoms) {
+    std::vector<std::string> nombres;
+    nombres.reserve(static_cast<std::size_t>(asNoms.size()));
+    for (const QString& nombre : asNoms)
+        nombres.push_back(nombre.toStdString());
+    return partes_->comandos.ModificaVarios_Nombres(Lista(aiCodGIS), nombres);
+}
+
+QString Esquema::ModificaVarios_ConecSec(const QList<qint32>& aivOrigen, const QList<qint32>& aivDestino,
+                                         bool aBorraAnteriores) {
+    partes_->comandos.ModificaVarios_ConecSec(Lista(aivOrigen), Lista(aivDestino), aBorraAnteriores);
+    return {};
+}
+
+bool Esquema::bHabidoCambios() const {
+    return partes_->documento.bHabidoCambios;
+}
+void Esquema::bHabidoCambios(bool valor) {
+    partes_->documento.bHabidoCambios = valor;
+}
+bool Esquema::bMostrarLineasOcultas() const {
+    return partes_->documento.bMostrarLineasOcultas;
+}
+void Esquema::bMostrarLineasOcultas(bool valor) {
+    partes_->documento.bMostrarLineasOcultas = valor;
+}
+
+// --- View -------------------------------------------------------------------------------------------------
+
+void Esquema::ResizeGrafo() {
+    Partes& p = *partes_;
+    p.ExigeDisposicion();
+    p.ajustaAlMostrar = !p.seHaMostrado;
+    p.vista.AjustarImagen(p.panel->lienzo(), 1);
+}
+
+void Esquema::AjustarAVentana(const std::optional<Variante>& fLeft, const std::optional<Variante>& fTop,
+                              const std::optional<Variante>& fWidth, const std::optional<Variante>& fHeight) {
+    Llamada(". Error en método AjustarAVentana (Esquema)", [&] {
+        Partes& p = *partes_;
+        p.refresco.AnularRefresco();
+        const QWidget* contenedor = parentWidget();
+        if (!contenedor) throw Fallo(91);
+        const Guardia ajustando(p.bAjustandoVentana, true);
+        // The container's own scale begins at (0, 0).
+        const auto lado = [](const std::optional<Variante>& dado, float faltando) {
+            return dado ? dado->Real32() : faltando;
+        };
+        const float izquierda = lado(fLeft, 0);
+        const float arriba = lado(fTop, 0);
+        const float ancho = lado(fWidth, std::abs(std::abs(izquierda) - std::abs(p.Mm(contenedor->width()))));
+        const float alto = lado(fHeight, std::abs(std::abs(arriba) - std::abs(p.Mm(contenedor->height()))));
+        setGeometry(p.PixelesDeMm(izquierda), p.PixelesDeMm(arriba), p.PixelesDeMm(ancho),
+                    p.PixelesDeMm(alto));
+        p.UserControl_Resize();
+        if (const auto aviso = p.desplazamiento.ActualizaVista(2)) dialogos().MsgBox(*aviso);
+        p.bAjustandoVentana = false;
+        p.refresco.PedirRefresco();
+        p.refresco.RefrescarSiPendiente();
+    });
 }
 
 bool Esquema::CambiaZoom(double factor) {
-    Vista& vista = partes_->vista;
-    vista.bVistaActualizada(true);
-    return vista.AjustarZoomUsuario(partes_->panel->lienzo(), static_cast<float>(vista.Zoom() * factor), true,
-                                    true, 1);
+    Partes& p = *partes_;
+    p.ExigeDisposicion();
+    return p.vista.AjustarZoomUsuario(p.panel->lienzo(), static_cast<float>(p.vista.Zoom() * factor), true,
+                                      true, 1);
 }
 
 void Esquema::DesplazaVista(double ancho, double alto) {
-    const Lienzo& panel = partes_->panel->lienzo();
-    partes_->vista.bVistaActualizada(true);
-    partes_->vista.MueveScroll(panel.ScaleLeft() + panel.ScaleWidth() * static_cast<float>(0.5 + ancho),
-                               panel.ScaleTop() + panel.ScaleHeight() * static_cast<float>(0.5 - alto), 1);
+    Partes& p = *partes_;
+    p.ExigeDisposicion();
+    const Lienzo& lienzo = p.panel->lienzo();
+    p.vista.MueveScroll(lienzo.ScaleLeft() + lienzo.ScaleWidth() * static_cast<float>(0.5 + ancho),
+                        lienzo.ScaleTop() + lienzo.ScaleHeight() * static_cast<float>(0.5 - alto), 1);
+}
+
+void Esquema::textoStatBar(const QString& texto) {
+    partes_->TextoEstado(1, texto.toStdString());
+}
+
+// --- Events of the platform -------------------------------------------------------------------------------
+
+bool Esquema::eventFilter(QObject* objeto, QEvent* evento) {
+    if (!partes_ || partes_->terminando) return false;
+    if (partes_->comandos.Cargando() && EsEntrada(*evento)) return true;
+    const bool tecla = evento->type() == QEvent::KeyPress || evento->type() == QEvent::KeyRelease;
+    if (tecla && partes_->AtiendeTeclasDe(objeto)) partes_->AtiendeTecla(*evento);
+    return QFrame::eventFilter(objeto, evento);
 }
 
 void Esquema::resizeEvent(QResizeEvent* evento) {
-    QWidget::resizeEvent(evento);
-    partes_->panel->setGeometry(rect());
+    QFrame::resizeEvent(evento);
+    partes_->EnEvento([this] { partes_->UserControl_Resize(); });
 }
 
 void Esquema::showEvent(QShowEvent* evento) {
-    QWidget::showEvent(evento);
-    partes_->seHaMostrado = true;
-    if (!partes_->ajustaAlMostrar) return;
-    partes_->ajustaAlMostrar = false;
-    partes_->EnEvento([this] {
-        partes_->vista.DisponeDeNuevo(partes_->panel->AnchoMm(), partes_->panel->AltoMm());
-        ResizeGrafo();
-    });
+    QFrame::showEvent(evento);
+    partes_->AjustaAlMostrarSiHaceFalta();
+}
+
+QSize Esquema::sizeHint() const {
+    return {partes_->PixelesDeMm(200), partes_->PixelesDeMm(140)};
+}
+
+QSize Esquema::minimumSizeHint() const {
+    return {partes_->PixelesDeMm(ANCHO_MINIMO) + 2 * frameWidth() + 1,
+            partes_->PixelesDeMm(ALTO_MINIMO) + 2 * frameWidth() + 1};
 }
 
 }  // namespace zel

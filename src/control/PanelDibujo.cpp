@@ -1,5 +1,7 @@
 #include "control/PanelDibujo.h"
 
+#include <QFocusEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QResizeEvent>
@@ -29,23 +31,78 @@ void PanelDibujo::paintEvent(QPaintEvent* evento) {
     QPainter pintor(this);
     pintor.setClipRect(evento->rect());
     pintor.drawImage(QRectF(0, 0, imagen.width() / relacion, imagen.height() / relacion), imagen);
+    if (relacion == devicePixelRatioF()) return;
     // On another screen: the image follows once this paint is over.
-    if (relacion != devicePixelRatioF()) QTimer::singleShot(0, this, [this] { PreparaLienzo(); });
+    QTimer::singleShot(0, this, [this] {
+        if (PreparaLienzo()) emit Redimensionado();
+    });
 }
 
 void PanelDibujo::resizeEvent(QResizeEvent* evento) {
     QWidget::resizeEvent(evento);
-    PreparaLienzo();
+    if (PreparaLienzo()) emit Redimensionado();
 }
 
-void PanelDibujo::PreparaLienzo() {
+bool PanelDibujo::PreparaLienzo() {
+    const double relacion = devicePixelRatioF();
+    const QSize pixeles = (QSizeF(size()) * relacion).toSize().expandedTo({1, 1});
+    if (pixeles == lienzo_.Imagen().size() && relacion == lienzo_.Relacion()) return false;
     try {
-        const double relacion = devicePixelRatioF();
-        lienzo_.Redimensiona((QSizeF(size()) * relacion).toSize(), relacion, logicalDpiX());
+        lienzo_.Redimensiona(pixeles, relacion, logicalDpiX());
     } catch (const std::exception&) {
-        return;  // no memory for an image of this size: the earlier one stays
+        return false;  // no memory for an image of this size: the earlier one stays
     }
-    emit Redimensionado();
+    return true;
+}
+
+namespace {
+
+bool EntreWidgets(const QFocusEvent& evento) noexcept {
+    switch (evento.reason()) {
+        case Qt::ActiveWindowFocusReason:
+        case Qt::PopupFocusReason:
+        case Qt::MenuBarFocusReason:
+            return false;
+        default:
+            return true;
+    }
+}
+
+qint16 Botones(Qt::MouseButtons botones) noexcept {
+    return static_cast<qint16>((botones & Qt::LeftButton ? 1 : 0) | (botones & Qt::RightButton ? 2 : 0) |
+                               (botones & Qt::MiddleButton ? 4 : 0));
+}
+
+}  // namespace
+
+void PanelDibujo::focusInEvent(QFocusEvent* evento) {
+    QWidget::focusInEvent(evento);
+    if (EntreWidgets(*evento)) emit GanaFoco();
+}
+
+void PanelDibujo::focusOutEvent(QFocusEvent* evento) {
+    QWidget::focusOutEvent(evento);
+    if (EntreWidgets(*evento)) emit PierdeFoco();
+}
+
+PuntoXY PanelDibujo::EnElMundo(QPointF punto) const {
+    return {static_cast<float>(lienzo_.ScaleLeft() + punto.x() / width() * lienzo_.ScaleWidth()),
+            static_cast<float>(lienzo_.ScaleTop() + punto.y() / height() * lienzo_.ScaleHeight())};
+}
+
+void PanelDibujo::mousePressEvent(QMouseEvent* evento) {
+    const PuntoXY p = EnElMundo(evento->position());
+    emit Pulsado(Botones(evento->button()), p.X, p.Y);
+}
+
+void PanelDibujo::mouseMoveEvent(QMouseEvent* evento) {
+    const PuntoXY p = EnElMundo(evento->position());
+    emit Movido(Botones(evento->buttons()), p.X, p.Y);
+}
+
+void PanelDibujo::mouseReleaseEvent(QMouseEvent* evento) {
+    const PuntoXY p = EnElMundo(evento->position());
+    emit Soltado(Botones(evento->button()), p.X, p.Y);
 }
 
 }  // namespace zel

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
 
 #include "platform/qt/Lienzo.h"
 
@@ -16,6 +15,10 @@ class PanelDibujo : public QWidget {
 
     // What its Refresh does is up to who owns the panel.
     Lienzo& lienzo() noexcept { return lienzo_; }
+    const Lienzo& lienzo() const noexcept { return lienzo_; }
+
+    // Gives the surface the panel's present size and resolution; it is blank then. True when it changed.
+    bool PreparaLienzo();
 
     // Millimetres at the panel's logical resolution.
     float AnchoMm() const;
@@ -24,13 +27,26 @@ class PanelDibujo : public QWidget {
   signals:
     // The panel has a new size: the surface is blank and waits for a layout and a repaint.
     void Redimensionado();
+    // The focus has come from another widget of the window, or has gone to one; boxes, menus and the change
+    // to another window do not count.
+    void GanaFoco();
+    void PierdeFoco();
+    // The mouse, in world units; buttons 1 left, 2 right, 4 middle, 0 none. A move tells those held.
+    void Pulsado(qint16 boton, float x, float y);
+    void Movido(qint16 botones, float x, float y);
+    void Soltado(qint16 boton, float x, float y);
 
   protected:
     void paintEvent(QPaintEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
+    void focusInEvent(QFocusEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
 
   private:
-    void PreparaLienzo();
+    PuntoXY EnElMundo(QPointF punto) const;
 
     Lienzo lienzo_;
 };

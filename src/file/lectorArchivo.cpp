@@ -109,6 +109,13 @@ void lectorArchivo::Carga() try {
     LanzaError(TEXTO_LIBRE, "Lector:Carga ");
 }
 
+std::string lectorArchivo::MotivoParaNoAbrir() const {
+    DocumentoXml documento;
+    if (!documento.Carga(nombreArchivo_)) return documento.Motivo();
+    const bool esEsquema = documento.Raiz()->name == documento.Nombre("Esquema");
+    return esEsquema || documento.Nombre("Elemento") ? std::string() : "no es un esquema";
+}
+
 const Hallazgos::Lista* lectorArchivo::AsignaPropiedad(const Hallazgos& hallazgos, Hijo hijo,
                                                        std::int16_t esperados, std::int16_t posicion,
                                                        bool bSinAviso) try {

@@ -37,6 +37,10 @@ class lectorArchivo {
     // the elements read before it stay in the collection.
     void Carga();
 
+    // Why NombreArchivo cannot be opened as a schematic: it cannot be read, or it is a document of another
+    // kind; empty when it can. Loads nothing.
+    std::string MotivoParaNoAbrir() const;
+
     // Of the last Carga: why the file could not be read at all (empty when it could), whether its root is
     // that of a schematic, and the text of its load log (empty when there was nothing to report). When Carga
     // raises and there is a log text, all was read and only the log could not be written.

@@ -1,0 +1,245 @@
+#include "control/ImagenFondo.h"
+
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QImageReader>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <cmath>
+
+#include "platform/Numeros.h"
+#include "platform/qt/ImagenQt.h"
+
+namespace zel {
+
+namespace {
+
+constexpr std::size_t CAJA_X0 = 0;
+constexpr std::size_t CAJA_Y0 = 1;
+constexpr std::size_t CAJA_LX = 2;
+constexpr std::size_t CAJA_PROPORCION = 3;
+
+constexpr double PROPORCION_MINIMA = 0.01;
+constexpr double PROPORCION_MAXIMA = 10.01;
+constexpr double ANCHO_MINIMO_DE_FONDO = 1;
+constexpr int MEGAS_DE_IMAGEN = 1024;
+
+// Scanned maps are larger than what the reader takes by itself.
+class LimiteDeImagen {
+  public:
+    LimiteDeImagen() : anterior_(QImageReader::allocationLimit()) {
+        QImageReader::setAllocationLimit(MEGAS_DE_IMAGEN);
+    }
+    LimiteDeImagen(const LimiteDeImagen&) = delete;
+    LimiteDeImagen& operator=(const LimiteDeImagen&) = delete;
+    ~LimiteDeImagen() { QImageReader::setAllocationLimit(anterior_); }
+
+  private:
+    int anterior_;
+};
+
+double NumeroDe(std::string texto) {
+    const std::size_t coma = texto.find(',');
+    if (coma != std::string::npos) texto[coma] = '.';
+    return NumeroInicial(texto);
+}
+
+}  // namespace
+
+ImagenFondo::ImagenFondo(QWidget* visor, Documento& documento, Refresco& refresco, MaquinaEstados& estados,
+                         Anfitrion& anfitrion, DialogoComun& dialogo, std::function<void()> ver)
+    : documento_(documento),
+      refresco_(refresco),
+      estados_(estados),
+      anfitrion_(anfitrion),
+      dialogo_(dialogo),
+      ver_(std::move(ver)) {
+    ConstruyeFrame(visor);
+}
+
+void ImagenFondo::ConstruyeFrame(QWidget* visor) {
+    struct Rotulo {
+        const char* texto;
+        const char* inicial;
+    };
+    static constexpr Rotulo ROTULOS[] = {
+        {"Posición X", "0"}, {"Posición Y", "0"}, {"Logitud  X", "300"}, {"Prop. Y/X", "1"}};
+    frame_ = new QGroupBox(QStringLiteral("Imagen de fondo"), visor);
+    frame_->setObjectName(QStringLiteral("FrameImagenFondo"));
+    frame_->setAutoFillBackground(true);
+    frame_->setEnabled(false);
+    frame_->hide();
+    auto* filas = new QFormLayout(frame_);
+    for (std::size_t i = 0; i < otbImagenFondo_.size(); ++i) {
+        const QString indice = QStringLiteral("(%1)").arg(i);
+        auto* caja = new QLineEdit(QString::fromLatin1(ROTULOS[i].inicial), frame_);
+        caja->setObjectName(QStringLiteral("otbImagenFondo") + indice);
+        caja->setMinimumWidth(caja->fontMetrics().averageCharWidth() * 12);
+        auto* rotulo = new QLabel(QString::fromUtf8(ROTULOS[i].texto), frame_);
+        rotulo->setObjectName(QStringLiteral("LabelImagenFondo") + indice);
+        caja->setAccessibleName(rotulo->text().simplified());
+        rotulo->setBuddy(caja);
+        filas->addRow(rotulo, caja);
+        otbImagenFondo_[i] = caja;
+    }
+    Check1OcultarImagenFondo_ = new QCheckBox(QStringLiteral("Ocultar"), frame_);
+    Check1OcultarImagenFondo_->setObjectName(QStringLiteral("Check1OcultarImagenFondo"));
+    filas->addRow(Check1OcultarImagenFondo_);
+    auto* botones = new QHBoxLayout;
+    for (const char* texto : {"Ver", "Aceptar"}) {
+        auto* boton = new QPushButton(QString::fromLatin1(texto), frame_);
+        boton->setObjectName(QStringLiteral("cmdImagenFondo") + QString::fromLatin1(texto));
+        botones->addWidget(boton);
+    }
+    filas->addRow(botones);
+    frame_->adjustSize();
+}
+
+double ImagenFondo::Caja(std::size_t i) const {
+    return NumeroDe(otbImagenFondo_[i]->text().toStdString());
+}
+
+void ImagenFondo::Caja(std::size_t i, double valor) {
+    otbImagenFondo_[i]->setText(QString::fromStdString(TextoDeNumero(valor)));
+}
+
+void ImagenFondo::EscribeCajas() {
+    Caja(CAJA_X0, ImagenX0_);
+    Caja(CAJA_Y0, ImagenY0_);
+    Caja(CAJA_LX, ImagenLX_);
+    Caja(CAJA_PROPORCION, ImagenPropYX_);
+}
+
+bool ImagenFondo::Carga(const std::string& ruta) {
+    const LimiteDeImagen limite;
+    QImageReader lector(QString::fromStdString(ruta));
+    lector.setAutoTransform(true);
+    lector.setDecideFormatFromContent(true);
+    QImage imagen = lector.read();
+    if (imagen.isNull()) {
+        Pintar_LinkError();
+        return false;
+    }
+    Pintar_ = std::make_shared<ImagenQt>(std::move(imagen));
+    return true;
+}
+
+void ImagenFondo::Pintar_LinkError() noexcept {
+    bHayImagenFondo_ = false;
+}
+
+// The picture as wide in the world as it is on the screen, and its own proportion.
+void ImagenFondo::PonTamanyoInicial() {
+    ImagenPropYX_ = double(Pintar_->Alto()) / Pintar_->Ancho();
+    Caja(CAJA_PROPORCION, ImagenPropYX_);
+    Caja(CAJA_LX, Pintar_->Ancho());
+}
+
+// False when the command ends here: nothing was chosen, or what was chosen is no picture.
+bool ImagenFondo::Elige() {
+    dialogo_.Titulo("IMAGEN DE FONDO DEL ESQUEMA");
+    dialogo_.Filtro(
+        "Archivos de imagen(*.bmp)|*.bmp|Archivos de imagen(*.jpg)|*.jpg|Todos los archivos(*.*)|*.*");
+    const std::string ruta = dialogo_.ShowOpen();
+    if (ruta.empty()) return false;
+    if (QFileInfo::exists(QString::fromStdString(ruta)) && Carga(ruta)) {
+        sArchivoImagenFondo_ = ruta;
+        bHayImagenFondo_ = true;
+        PonTamanyoInicial();
+        return true;
+    }
+    dialogos().MsgBox("No se puede leer la imagen \"" + ruta +
+                      "\". Escoja un archivo de imagen BMP, JPEG o PNG.");
+    return false;
+}
+
+void ImagenFondo::Edita() {
+    refresco_.AnularRefresco();
+    if (!bHayImagenFondo_ && !Elige()) return;
+    frame_->show();
+    frame_->setEnabled(true);
+    frame_->raise();
+    estados_.Estado(E_IMAGEN_FONDO, 1);
+    cmdImagenFondoVer_Click();
+    refresco_.RefrescarSiPendiente();
+}
+
+void ImagenFondo::Quita() {
+    refresco_.AnularRefresco();
+    bHayImagenFondo_ = false;
+    estados_.Estado(E_PREPARADO, 1);
+    refresco_.RefrescarSiPendiente();
+    documento_.bHabidoCambios = true;
+}
+
+bool ImagenFondo::CajasValidas() {
+    const double proporcion = Caja(CAJA_PROPORCION);
+    const bool validas = std::abs(proporcion) >= PROPORCION_MINIMA &&
+                         std::abs(proporcion) <= PROPORCION_MAXIMA && Caja(CAJA_LX) >= ANCHO_MINIMO_DE_FONDO;
+    if (!validas) EscribeCajas();
+    return validas;
+}
+
+void ImagenFondo::cmdImagenFondoVer_Click() {
+    if (!CajasValidas()) return;
+    ImagenX0_ = Caja(CAJA_X0);
+    ImagenY0_ = Caja(CAJA_Y0);
+    ImagenLX_ = Caja(CAJA_LX);
+    ImagenPropYX_ = Caja(CAJA_PROPORCION);
+    EscribeCajas();
+    ImagenLY_ = -ImagenPropYX_ * ImagenLX_;
+    bOcultarImagenFondo_ = Check1OcultarImagenFondo_->isChecked();
+    ver_();
+}
+
+void ImagenFondo::cmdImagenFondoAceptar_Click() {
+    cmdImagenFondoVer_Click();
+    frame_->hide();
+    frame_->setEnabled(false);
+    estados_.Estado(E_PREPARADO, 1);
+    anfitrion_.BarraElementosActiva(true);
+    refresco_.RefrescarSiPendiente();
+}
+
+void ImagenFondo::AplicaTextos(const std::optional<Coleccion<std::string>>& textos) {
+    bHayImagenFondo_ = false;
+    const std::string* archivo = textos ? textos->Busca("Archivo") : nullptr;
+    if (!archivo || archivo->empty()) return;
+    try {
+        const auto texto = [&](const char* clave) { return textos->Item(clave); };
+        sArchivoImagenFondo_ = *archivo;
+        ImagenX0_ = NumeroDe(texto("X0"));
+        Caja(CAJA_X0, ImagenX0_);
+        ImagenY0_ = NumeroDe(texto("Y0"));
+        Caja(CAJA_Y0, ImagenY0_);
+        ImagenLX_ = NumeroDe(texto("LX"));
+        Caja(CAJA_LX, ImagenLX_);
+        ImagenPropYX_ = NumeroDe(texto("LY"));
+        Caja(CAJA_PROPORCION, ImagenPropYX_);
+        ImagenLY_ = -ImagenPropYX_ * ImagenLX_;
+        bOcultarImagenFondo_ = Variante(texto("Oculta")).Booleano();
+        Check1OcultarImagenFondo_->setChecked(bOcultarImagenFondo_);
+        bHayImagenFondo_ = Carga(sArchivoImagenFondo_);
+    } catch (...) {
+        Pintar_LinkError();
+    }
+}
+
+std::optional<ImagenGuardada> ImagenFondo::Guardada() const {
+    if (!bHayImagenFondo_) return std::nullopt;
+    return ImagenGuardada{sArchivoImagenFondo_, ImagenX0_,           ImagenY0_, ImagenLX_,
+                          ImagenPropYX_,        bOcultarImagenFondo_};
+}
+
+Fondo ImagenFondo::FondoDelPanel() const {
+    if (!bHayImagenFondo_ || bOcultarImagenFondo_) return {};
+    return {Pintar_.get(),
+            {static_cast<float>(ImagenX0_), static_cast<float>(ImagenY0_)},
+            static_cast<float>(ImagenLX_),
+            static_cast<float>(ImagenLY_)};
+}
+
+}  // namespace zel

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QGroupBox>
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "drawing/Pintor.h"
+#include "editing/MaquinaEstados.h"
+#include "file/GuardadoSeguro.h"
+#include "platform/Coleccion.h"
+#include "platform/DialogoComun.h"
+
+class QCheckBox;
+class QLineEdit;
+
+namespace zel {
+
+// The picture under the schematic, and the frame in which the user places it.
+class ImagenFondo {
+  public:
+    // `ver` repaints the schematic with the picture and without marks.
+    ImagenFondo(QWidget* visor, Documento& documento, Refresco& refresco, MaquinaEstados& estados,
+                Anfitrion& anfitrion, DialogoComun& dialogo, std::function<void()> ver);
+
+    // Asks for a picture when there is none, and opens the frame.
+    void Edita();
+    void Quita();
+    // The frame's buttons: put what the boxes say into effect; the same and close the frame.
+    void cmdImagenFondoVer_Click();
+    void cmdImagenFondoAceptar_Click();
+
+    // From a file's section; nothing, or one whose picture cannot be read, leaves no picture.
+    void AplicaTextos(const std::optional<Coleccion<std::string>>& textos);
+    // For the file; nothing without a picture.
+    std::optional<ImagenGuardada> Guardada() const;
+    // For the paint; no picture when there is none or it is hidden.
+    Fondo FondoDelPanel() const;
+
+    bool bHayImagenFondo() const noexcept { return bHayImagenFondo_; }
+    // The frame is the control's child: it goes with it.
+    void SueltaFrame() noexcept { frame_ = nullptr; }
+    QWidget* Frame() const noexcept { return frame_; }
+
+  private:
+    void ConstruyeFrame(QWidget* visor);
+    bool Elige();
+    bool Carga(const std::string& ruta);
+    void Pintar_LinkError() noexcept;
+    void PonTamanyoInicial();
+    bool CajasValidas();
+    void EscribeCajas();
+    double Caja(std::size_t i) const;
+    void Caja(std::size_t i, double valor);
+
+    Documento& documento_;
+    Refresco& refresco_;
+    MaquinaEstados& estados_;
+    Anfitrion& anfitrion_;
+    DialogoComun& dialogo_;
+    std::function<void()> ver_;
+
+    bool bHayImagenFondo_ = false;
+    bool bOcultarImagenFondo_ = false;
+    std::string sArchivoImagenFondo_;
+    double ImagenX0_ = 0;
+    double ImagenY0_ = 0;
+    double ImagenLX_ = 0;
+    double ImagenPropYX_ = 0;
+    double ImagenLY_ = 0;
+    std::shared_ptr<const Imagen> Pintar_;
+
+    QGroupBox* frame_ = nullptr;
+    std::array<QLineEdit*, 4> otbImagenFondo_{};
+    QCheckBox* Check1OcultarImagenFondo_ = nullptr;
+};
+
+}  // namespace zel

@@ -1,0 +1,261 @@
+#include "control/PartesDelEsquema.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <cmath>
+
+#include "control/CursoresQt.h"
+#include "control/Teclas.h"
+#include "platform/Guardia.h"
+
+namespace zel {
+
+namespace {
+
+constexpr double MM_POR_PULGADA = 25.4;
+
+template <typename Widget, typename... Args>
+Widget* Nueva(const char* nombre, Args... args) {
+    auto* widget = new Widget(args...);
+    widget->setObjectName(QString::fromLatin1(nombre));
+    return widget;
+}
+
+}  // namespace
+
+Esquema::Partes::Partes(Esquema& dueno)
+    : esquema(dueno),
+      panel(Nueva<PanelDibujo>("Panel", &dueno)),
+      hScroll(Nueva<BarraDesplazamientoQt>("HScroll", Qt::Horizontal, &dueno)),
+      vScroll(Nueva<BarraDesplazamientoQt>("VScroll", Qt::Vertical, &dueno)),
+      toolBar1(Nueva<ZelToolBar>("ToolBar1", &dueno)),
+      toolBar2(Nueva<ZelToolBar2>("ToolBar2", &dueno)),
+      line1(Nueva<QFrame>("Line1", &dueno)),
+      line2(Nueva<QFrame>("Line2", &dueno)),
+      statusBar1(Nueva<StatusBar>("StatusBar1", &dueno)),
+      refresco(panel->lienzo()),
+      avisos(trabajo, refresco),
+      vista(panel->lienzo(), documento, trabajo, refresco, avisos, *this),
+      desplazamiento(panel->lienzo(), vista, trabajo, refresco, *this, *hScroll, *vScroll),
+      pintado(panel->lienzo(), documento, trabajo, refresco, vista, desplazamiento,
+              [this] { return imagen.FondoDelPanel(); }),
+      localizador(panel->lienzo(), documento, trabajo, vista,
+                  [this](std::int32_t codigo) { pintado.SubrayaElem(codigo); }),
+      estados(panel->lienzo(), documento, trabajo, refresco, vista, *this),
+      gestos(panel->lienzo(), trabajo, refresco, vista, avisos, estados, [this] { UserControl_Resize(); }),
+      herramientas(panel->lienzo(), trabajo, refresco, vista, avisos, estados, gestos, *this),
+      entrada(panel->lienzo(), trabajo, refresco, vista, avisos, estados, gestos, localizador, *this),
+      imagen(&dueno, documento, refresco, estados, *this, commonDialog1,
+             [this] { pintado.PintaSinMarcas(); }),
+      comandos(panel->lienzo(), documento, trabajo, refresco, vista, desplazamiento, estados, *this, imagen,
+               [] { QCoreApplication::processEvents(); }) {
+    line1->setFrameStyle(QFrame::HLine | QFrame::Plain);
+    line2->setFrameStyle(QFrame::HLine | QFrame::Plain);
+    line1->setForegroundRole(QPalette::Mid);
+    line2->setForegroundRole(QPalette::Light);
+    panel->setFocusPolicy(Qt::StrongFocus);
+    panel->setMouseTracking(true);
+    panel->setAccessibleName(QStringLiteral("Esquema"));
+    hScroll->setAccessibleName(QStringLiteral("Desplazamiento horizontal"));
+    vScroll->setAccessibleName(QStringLiteral("Desplazamiento vertical"));
+    esquema.setFocusProxy(panel);
+    CreaAcciones();
+    Conecta();
+}
+
+void Esquema::Partes::CreaAcciones() {
+    const auto crea = [&](const char* nombre, const char* texto, auto accion) {
+        auto* orden = new QAction(QString::fromUtf8(texto), &esquema);
+        orden->setObjectName(QString::fromLatin1(nombre));
+        QObject::connect(orden, &QAction::triggered, &esquema, [this, accion] { EnEntrada(accion); });
+    };
+    crea("menuVisorImagen", "Editar imagen de fondo", [this] { imagen.Edita(); });
+    crea("menuVisorQuitarImagen", "Quitar imagen de fondo", [this] { imagen.Quita(); });
+}
+
+void Esquema::Partes::Conecta() {
+    const auto boton = [&](const char* nombre, auto accion) {
+        QObject::connect(imagen.Frame()->findChild<QAbstractButton*>(QString::fromLatin1(nombre)),
+                         &QAbstractButton::clicked, &esquema, [this, accion] { EnEntrada(accion); });
+    };
+    boton("cmdImagenFondoVer", [this] { imagen.cmdImagenFondoVer_Click(); });
+    boton("cmdImagenFondoAceptar", [this] { imagen.cmdImagenFondoAceptar_Click(); });
+
+    panel->lienzo().AlRefrescar([this] { pintado.Panel_Paint(); });
+    panel->lienzo().AlCambiarPuntero([this](std::int16_t puntero, std::int32_t numero) {
+        panel->setCursor(CursorDe(puntero, numero, panel->devicePixelRatioF()));
+    });
+    QObject::connect(panel, &PanelDibujo::Redimensionado, &esquema,
+                     [this] { EnEvento([this] { UserControl_Resize(); }); });
+    QObject::connect(panel, &PanelDibujo::GanaFoco, &esquema,
+                     [this] { EnEntrada([this] { herramientas.Panel_GotFocus(); }); });
+    QObject::connect(panel, &PanelDibujo::PierdeFoco, &esquema,
+                     [this] { EnEntrada([this] { herramientas.Panel_LostFocus(); }); });
+    const auto raton = [&](auto senal, void (EntradaPanel::*atiende)(std::int16_t, float, float)) {
+        QObject::connect(panel, senal, &esquema, [this, atiende](qint16 b, float x, float y) {
+            EnEntrada([&] { (entrada.*atiende)(b, x, y); });
+        });
+    };
+    raton(&PanelDibujo::Pulsado, &EntradaPanel::Panel_MouseDown);
+    raton(&PanelDibujo::Movido, &EntradaPanel::Panel_MouseMove);
+    raton(&PanelDibujo::Soltado, &EntradaPanel::Panel_MouseUp);
+    ConectaBarras();
+    for (auto* parte : esquema.findChildren<QWidget*>())
+        parte->installEventFilter(&esquema);
+}
+
+void Esquema::Partes::ConectaBarras() {
+    const auto barra = [&](BarraDesplazamientoQt* cual, void (Desplazamiento::*cambia)(),
+                           void (Desplazamiento::*arrastra)()) {
+        QObject::connect(cual, &BarraDesplazamientoQt::Change, &esquema,
+                         [this, cambia] { EnEntrada([&] { (desplazamiento.*cambia)(); }); });
+        QObject::connect(cual, &BarraDesplazamientoQt::Scroll, &esquema,
+                         [this, arrastra] { EnEntrada([&] { (desplazamiento.*arrastra)(); }); });
+    };
+    barra(hScroll, &Desplazamiento::HScroll_Change, &Desplazamiento::HScroll_Scroll);
+    barra(vScroll, &Desplazamiento::VScroll_Change, &Desplazamiento::VScroll_Scroll);
+    QObject::connect(toolBar1, &BarraDeBotones::ButtonClick, &esquema,
+                     [this](const std::shared_ptr<Boton>& boton) {
+                         EnEntrada([&] { herramientas.Toolbar1_ButtonClick(boton->Key()); });
+                     });
+    QObject::connect(toolBar2, &BarraDeBotones::ButtonClick, &esquema,
+                     [this](const std::shared_ptr<Boton>& boton) {
+                         EnEntrada([&] { herramientas.Toolbar2_ButtonClick(boton->Key()); });
+                     });
+}
+
+// --- What the editor asks ---------------------------------------------------------------------------------
+
+std::shared_ptr<Buttons> Esquema::Partes::BotonesDe(Barra barra) const {
+    return barra == Barra::Elementos ? toolBar1->Buttons() : toolBar2->Buttons();
+}
+
+void Esquema::Partes::TextoEstado(int panelDeEstado, const std::string& texto) {
+    statusBar1->Panels()->Item(panelDeEstado)->Texto(Variante(texto));
+}
+
+void Esquema::Partes::SueltaBotones(Barra barra) {
+    for (const auto& boton : *BotonesDe(barra))
+        boton->Value(0);
+}
+
+void Esquema::Partes::PulsaBoton(Barra barra, std::string_view clave) {
+    if (const auto boton = BotonesDe(barra)->Busca(clave)) boton->Value(1);
+}
+
+bool Esquema::Partes::BotonPulsado(Barra barra, std::string_view clave) const {
+    const auto boton = BotonesDe(barra)->Busca(clave);
+    return boton && boton->Value() == 1;
+}
+
+void Esquema::Partes::BarraElementosActiva(bool activa) {
+    toolBar1->Enabled(activa);
+}
+
+void Esquema::Partes::PeticionBorrado(std::int32_t gfCodSIG) {
+    qint32 codigo = gfCodSIG;
+    emit esquema.PeticionBorrado(codigo);
+}
+
+// --- Layout -----------------------------------------------------------------------------------------------
+
+float Esquema::Partes::Mm(int pixeles) const {
+    return static_cast<float>(pixeles * MM_POR_PULGADA / esquema.logicalDpiX());
+}
+
+int Esquema::Partes::PixelesDeMm(float mm) const {
+    return qRound(mm * esquema.logicalDpiX() / MM_POR_PULGADA);
+}
+
+// By its edges, so that neighbours touch.
+QRect Esquema::Partes::Pixeles(const CajaMm& caja) const {
+    const QPoint origen = esquema.contentsRect().topLeft();
+    const QPoint desde(PixelesDeMm(caja.Left), PixelesDeMm(caja.Top));
+    const QPoint hasta(PixelesDeMm(caja.Left + caja.Width), PixelesDeMm(caja.Top + caja.Height));
+    return {origen + desde, QSize(hasta.x() - desde.x(), hasta.y() - desde.y())};
+}
+
+void Esquema::Partes::CreceAlMinimoSiHaceFalta() {
+    const QSize interior = esquema.contentsRect().size();
+    const auto crecido = [&](int lado, int dentro, float minimo) {
+        const float mm = Mm(dentro);
+        if (!(mm > 0) || lado <= 0) return lado;
+        return static_cast<int>(std::ceil(lado * CreceAlMinimo(mm, minimo) / mm));
+    };
+    const QSize tamanyo(crecido(esquema.width(), interior.width(), ANCHO_MINIMO),
+                        crecido(esquema.height(), interior.height(), ALTO_MINIMO));
+    if (tamanyo != esquema.size()) esquema.resize(tamanyo);
+}
+
+void Esquema::Partes::ColocaPartes(const Disposicion& d) {
+    toolBar1->setGeometry(Pixeles(d.ToolBar1));
+    toolBar2->setGeometry(Pixeles(d.ToolBar2));
+    const QRect lineas = Pixeles(d.Lineas);
+    line1->setGeometry(lineas.left(), lineas.top(), lineas.width(), 1);
+    line2->setGeometry(lineas.left(), lineas.top() + 1, lineas.width(), 1);
+    panel->setGeometry(Pixeles(d.Panel));
+    hScroll->setGeometry(Pixeles(d.HScroll));
+    vScroll->setGeometry(Pixeles(d.VScroll));
+    statusBar1->setGeometry(Pixeles(d.StatusBar1));
+    const QWidget* frame = imagen.Frame();
+    imagen.Frame()->move(panel->geometry().right() - frame->width() - 8, panel->geometry().top() + 8);
+}
+
+void Esquema::Partes::UserControl_Resize() {
+    if (disponiendo) return;
+    const Guardia enCurso(disponiendo, true);
+    CreceAlMinimoSiHaceFalta();
+    const QSize interior = esquema.contentsRect().size();
+    const auto d = DisposicionDe(
+        Mm(interior.width()), Mm(interior.height()),
+        {static_cast<float>(toolBar1->ButtonWidth()), static_cast<float>(toolBar1->ButtonHeight()),
+         toolBar1->ButtonCount(), toolBar2->ButtonCount()});
+    if (!d) return;
+    ColocaPartes(*d);
+    panel->PreparaLienzo();
+    vista.Dispone(panel->AnchoMm(), panel->AltoMm());
+    if (!bAjustandoVentana) refresco.RefrescarSiPendiente();
+}
+
+void Esquema::Partes::ExigeDisposicion() {
+    if (vista.RelacionAspecto() == 0) UserControl_Resize();
+}
+
+void Esquema::Partes::AjustaAlMostrarSiHaceFalta() {
+    seHaMostrado = true;
+    // Keys are for the panel unless the user, or the host, has chosen another place for them.
+    if (!esquema.window()->focusWidget()) panel->setFocus();
+    if (!ajustaAlMostrar) return;
+    ajustaAlMostrar = false;
+    EnEvento([this] {
+        UserControl_Resize();
+        vista.DisponeDeNuevo(panel->AnchoMm(), panel->AltoMm());
+        vista.AjustarImagen(panel->lienzo(), 1);
+    });
+}
+
+// Once for each key: from a button it goes on to its bar.
+bool Esquema::Partes::AtiendeTeclasDe(const QObject* objeto) const {
+    const bool esBoton = objeto->parent() == toolBar1 || objeto->parent() == toolBar2;
+    return objeto == panel || esBoton;
+}
+
+// A key on its way to the panel or to a button: the host sees it first.
+void Esquema::Partes::AtiendeTecla(const QEvent& evento) {
+    const auto& tecla = static_cast<const QKeyEvent&>(evento);
+    qint16 codigo = CodigoDeTecla(tecla);
+    qint16 mayus = MascaraDeTeclas(tecla);
+    EnEntrada([&] {
+        if (evento.type() == QEvent::KeyRelease) {
+            if (!tecla.isAutoRepeat()) emit esquema.KeyUp(codigo, mayus);
+            return;
+        }
+        emit esquema.KeyDown(codigo, mayus);
+        qint16 ascii = CaracterDeTecla(tecla);
+        if (ascii != 0) emit esquema.KeyPress(ascii);
+    });
+}
+
+}  // namespace zel

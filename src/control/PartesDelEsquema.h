@@ -1,0 +1,138 @@
+#pragma once
+
+#include <QLabel>
+
+#include "bars/qt/StatusBar.h"
+#include "bars/qt/ZelToolBar.h"
+#include "bars/qt/ZelToolBar2.h"
+#include "control/Comandos.h"
+#include "control/Disposicion.h"
+#include "control/Esquema.h"
+#include "control/ImagenFondo.h"
+#include "control/PanelDibujo.h"
+#include "control/UnidadesDeEscala.h"
+#include "editing/EntradaPanel.h"
+#include "editing/Herramientas.h"
+#include "model/modErrorHandling.h"
+#include "platform/DialogoComun.h"
+#include "platform/Dialogos.h"
+#include "platform/qt/BarraDesplazamientoQt.h"
+#include "session/Localizador.h"
+#include "session/Pintado.h"
+
+namespace zel {
+
+// What the control is made of, and how it is wired.
+struct Esquema::Partes : public Anfitrion {
+    explicit Partes(Esquema& dueno);
+
+    // Anfitrion
+    void TextoEstado(int panelDeEstado, const std::string& texto) override;
+    void SueltaBotones(Barra barra) override;
+    void PulsaBoton(Barra barra, std::string_view clave) override;
+    bool BotonPulsado(Barra barra, std::string_view clave) const override;
+    void BarraElementosActiva(bool activa) override;
+    void PeticionBorrado(std::int32_t gfCodSIG) override;
+
+    // The one boundary between the control's failures and the platform's events.
+    template <typename Accion>
+    void EnEvento(Accion accion) {
+        if (terminando) return;
+        try {
+            pintado.SueltaAjenos();
+            accion();
+        } catch (...) {
+            const Fallo fallo = FalloEnCurso();
+            emit esquema.ErrorEnEvento(fallo.Number(), QString::fromStdString(fallo.Source()),
+                                       QString::fromStdString(fallo.Description()));
+        }
+    }
+    // The same for what the user does: dropped while a schematic is being loaded.
+    template <typename Accion>
+    void EnEntrada(Accion accion) {
+        if (!terminando && !comandos.Cargando()) EnEvento(accion);
+    }
+
+    void Conecta();
+    void ConectaBarras();
+    void CreaAcciones();
+
+    // The layout: the parts where they belong, the view to the panel's new size.
+    void UserControl_Resize();
+    void CreceAlMinimoSiHaceFalta();
+    void ColocaPartes(const Disposicion& d);
+    // A view call before any layout: it runs now.
+    void ExigeDisposicion();
+    void AjustaAlMostrarSiHaceFalta();
+    bool AtiendeTeclasDe(const QObject* objeto) const;
+    void AtiendeTecla(const QEvent& evento);
+
+    float Mm(int pixeles) const;
+    int PixelesDeMm(float mm) const;
+    QRect Pixeles(const CajaMm& caja) const;
+    std::shared_ptr<Buttons> BotonesDe(Barra barra) const;
+
+    Esquema& esquema;
+    PanelDibujo* panel;
+    BarraDesplazamientoQt* hScroll;
+    BarraDesplazamientoQt* vScroll;
+    ZelToolBar* toolBar1;
+    ZelToolBar2* toolBar2;
+    QFrame* line1;
+    QFrame* line2;
+    StatusBar* statusBar1;
+
+    Documento documento;
+    Trabajo trabajo;
+    DialogoComun commonDialog1;
+    Refresco refresco;
+    Avisos avisos;
+    Vista vista;
+    Desplazamiento desplazamiento;
+    Pintado pintado;
+    Localizador localizador;
+    MaquinaEstados estados;
+    GestosDeVista gestos;
+    Herramientas herramientas;
+    EntradaPanel entrada;
+    ImagenFondo imagen;
+    Comandos comandos;
+
+    std::int16_t modoDeEscala = MODO_MILIMETROS;
+    bool bAjustandoVentana = false;
+    bool disponiendo = false;
+    bool terminando = false;
+    bool seHaMostrado = false;
+    bool ajustaAlMostrar = false;
+};
+
+template <typename Accion>
+auto Esquema::Llamada(const char* sufijo, Accion accion) const {
+    try {
+        return accion();
+    } catch (...) {
+        LanzaErrorVisor(partes_->trabajo.iEstado, sufijo);
+    }
+}
+
+template <typename Accion>
+auto Esquema::Operacion(const char* sufijo, Accion accion) {
+    return Llamada(sufijo, [&] {
+        Partes& p = *partes_;
+        p.pintado.SueltaAjenos();
+        p.refresco.AnularRefresco();
+        p.estados.Estado(E_PREPARADO, 1);
+        return accion(p);
+    });
+}
+
+template <typename Accion>
+void Esquema::PonPropiedad(const char* sufijo, Accion accion) {
+    Llamada(sufijo, [&] {
+        accion(partes_->panel->lienzo());
+        partes_->refresco.PedirRefresco();
+        partes_->refresco.RefrescarSiPendiente();
+    });
+}
+
+}  // namespace zel
