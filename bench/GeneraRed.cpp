@@ -3,6 +3,7 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <stdexcept>
 #include <vector>
 
@@ -112,7 +113,10 @@ std::string GeneraRed(int elementos) {
 
 std::string EscribeRed(int elementos) {
     const auto ruta = std::filesystem::temp_directory_path() / ("red-" + std::to_string(elementos) + ".xml");
-    std::ofstream(ruta, std::ios::binary) << GeneraRed(elementos);
+    // In one step: another benchmark may be reading it.
+    const std::string nueva = ruta.string() + "." + std::to_string(std::random_device{}());
+    std::ofstream(nueva, std::ios::binary) << GeneraRed(elementos);
+    std::filesystem::rename(nueva, ruta);
     return ruta.string();
 }
 

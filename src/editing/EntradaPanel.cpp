@@ -47,6 +47,10 @@ void EntradaPanel::Panel_MouseDown(std::int16_t Button, float X, float Y) try {
         ClicDeZoom(X, Y);
     else if (EsBanda(trabajo_.iEstado))
         gestos_.EmpiezaBanda(X, Y);
+    if (!EsBanda(trabajo_.iEstado)) {
+        if (!vista_.bVistaActualizada()) refresco_.PedirRefresco();
+        vista_.bVistaActualizada(true);
+    }
     refresco_.RefrescarSiPendiente();
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrPanel_MouseDown (Esquema)");

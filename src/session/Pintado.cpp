@@ -50,6 +50,11 @@ Marcas Pintado::MarcasDelTrabajo() const {
     return marcas;
 }
 
+// Without its picture the schematic is painted all the same.
+Fondo Pintado::FondoDelMomento() const noexcept try { return fondo_(); } catch (...) {
+    return {};
+}
+
 void Pintado::SueltaAjenos() noexcept {
     const auto& e = trabajo_.elemSeleccionado;
     if (e && !documento_.colElementos->Contiene(e.get())) trabajo_.elemSeleccionado.reset();
@@ -70,7 +75,7 @@ void Pintado::Panel_Paint() {
             if (trabajo_.iEstado == DIBUJANDO_CONDUCCION) trabajo_.trazadoTemporal.reset();
             const Marcas marcas = MarcasDelTrabajo();
             auto deDibujo = PintaEsquema(panel_, AjustesDe(trabajo_, documento_, vista_), ConjuntoPintado(),
-                                         *documento_.colElementos, fondo_(), &marcas);
+                                         *documento_.colElementos, FondoDelMomento(), &marcas);
             std::move(deDibujo.begin(), deDibujo.end(), std::back_inserter(fallos));
         }
     }
@@ -86,7 +91,9 @@ void Pintado::Avisa(const std::vector<std::string>& fallos) {
     for (std::size_t i = 0; i < cajas; ++i) {
         std::string texto = fallos[i];
         if (i + 1 == CAJAS_POR_PINTADO && fallos.size() > cajas) {
-            texto += "\n\nHay " + std::to_string(fallos.size() - cajas) + " fallos más de dibujo.";
+            const std::size_t quedan = fallos.size() - cajas;
+            texto += "\n\nHay " + std::to_string(quedan) +
+                     (quedan == 1 ? " fallo más de dibujo." : " fallos más de dibujo.");
         }
         dialogos().MsgBox(texto);
     }
@@ -101,7 +108,7 @@ void Pintado::UserControl_Paint() {
 void Pintado::PintaSinMarcas() {
     codSubrayado_ = 0;
     Avisa(PintaEsquema(panel_, AjustesDe(trabajo_, documento_, vista_), *documento_.colElementos,
-                       *documento_.colElementos, fondo_()));
+                       *documento_.colElementos, FondoDelMomento()));
 }
 
 void Pintado::SombreaElemento(const std::shared_ptr<Elemento>& e) {

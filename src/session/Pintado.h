@@ -45,6 +45,7 @@ class Pintado {
 
   private:
     Marcas MarcasDelTrabajo() const;
+    Fondo FondoDelMomento() const noexcept;
     void Avisa(const std::vector<std::string>& fallos);
 
     Superficie& panel_;

@@ -228,7 +228,7 @@ TEST_F(Vistas, AnEmptySchematicKeepsTheViewAsItsActiveRegion) {
 }
 
 TEST_F(Vistas, AFailureIsRaisedWithTheStateOfTheViewer) {
-    struct : public Anfitrion {
+    struct : public AnfitrionAnotador {
         void TextoEstado(int, const std::string&) override { throw Fallo(7); }
     } roto;
     Vista otra(panel, documento, trabajo, refresco, avisos, roto);

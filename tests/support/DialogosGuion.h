@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -10,8 +11,9 @@
 
 namespace zel::pruebas {
 
-// Dialogs that follow a script: the notices announced with Espera, in that order. A box that nobody
-// announced, and an announced one that never came, fail the test. Installed while it lives.
+// Dialogs that follow a script: the notices announced with Espera and the answers of Responde and
+// ResponderArchivo, each in that order. A box that nobody announced, and an announced one that never came,
+// fail the test. Installed while it lives.
 class DialogosGuion {
   public:
     DialogosGuion() : guion_(std::make_shared<Guion>()), anteriores_(instalaDialogos(guion_)) {}
@@ -21,17 +23,26 @@ class DialogosGuion {
         instalaDialogos(anteriores_);
         for (const auto& texto : guion_->esperados)
             ADD_FAILURE() << "No box came with the text: " << texto;
+        EXPECT_TRUE(guion_->respuestas.empty() && guion_->archivos.empty()) << "An answer was not asked for";
     }
 
     // A notice that contains this text is to come.
     void Espera(const std::string& texto) { guion_->esperados.push_back(texto); }
-    // The whole text of the last notice.
+    // A question is to come, or a dialog for a file; nothing cancels it.
+    void Responde(std::optional<std::string> texto) { guion_->respuestas.push_back(std::move(texto)); }
+    void ResponderArchivo(std::optional<std::string> ruta) { guion_->archivos.push_back(std::move(ruta)); }
+    // Runs while each notice is open.
+    void MientrasAvisa(std::function<void()> accion) { guion_->mientras = std::move(accion); }
+    // The whole text of the last notice; the last question and the answer that it proposed.
     const std::string& Ultimo() const { return guion_->ultimo; }
+    const std::string& Pregunta() const { return guion_->pregunta; }
+    const std::string& Propuesta() const { return guion_->propuesta; }
 
   private:
     struct Guion : public Dialogos {
         void MsgBox(const std::string& texto, const std::string&) override {
             ultimo = texto;
+            if (mientras) mientras();
             if (esperados.empty()) {
                 ADD_FAILURE() << "Unannounced box: " << texto;
                 return;
@@ -40,25 +51,36 @@ class DialogosGuion {
             esperados.pop_front();
         }
         std::optional<std::string> InputBox(const std::string& texto, const std::string&,
-                                            const std::string&) override {
-            ADD_FAILURE() << "Unannounced question: " << texto;
-            return std::nullopt;
+                                            const std::string& propone) override {
+            pregunta = texto;
+            propuesta = propone;
+            return Siguiente(respuestas, "question: " + texto);
         }
         std::optional<std::string> ArchivoAbrir(const std::string&, const std::string&) override {
-            ADD_FAILURE() << "Unannounced file dialog";
-            return std::nullopt;
+            return Siguiente(archivos, "file dialog");
         }
         std::optional<std::string> ArchivoGuardar(const std::string&, const std::string&,
                                                   const std::string&) override {
-            ADD_FAILURE() << "Unannounced file dialog";
-            return std::nullopt;
+            return Siguiente(archivos, "file dialog");
         }
         std::optional<std::int32_t> Color(std::int32_t) override {
             ADD_FAILURE() << "Unannounced colour dialog";
             return std::nullopt;
         }
+        using Respuestas = std::deque<std::optional<std::string>>;
+        static std::optional<std::string> Siguiente(Respuestas& quedan, const std::string& que) {
+            if (quedan.empty()) {
+                ADD_FAILURE() << "Unannounced " << que;
+                return std::nullopt;
+            }
+            auto siguiente = std::move(quedan.front());
+            quedan.pop_front();
+            return siguiente;
+        }
         std::deque<std::string> esperados;
-        std::string ultimo;
+        Respuestas respuestas, archivos;
+        std::function<void()> mientras;
+        std::string ultimo, pregunta, propuesta;
     };
 
     std::shared_ptr<Guion> guion_;

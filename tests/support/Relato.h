@@ -58,6 +58,12 @@ inline Elemento Rotulado(const std::string& nombre, PuntoXY donde, float tamanyo
     return e;
 }
 
+inline Elemento ConNombre(Elemento e, const std::string& nombre) {
+    e.Nombre(nombre);
+    e.MostrarEtiqueta(true);
+    return e;
+}
+
 // The second trace of a hydro plant is its first one too, unless another is given.
 inline Elemento Lineal(TipoElemento tipo, PuntoXY donde, const Vertices& traza, float tamanyo = 1,
                        const Vertices& traza2 = {}) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,7 @@ class SuperficieGrabadora : public Superficie {
     std::vector<Trazo> trazos;
     int limpiezas = 0;
     int refrescos = 0;
+    std::function<void()> pinta;  // what a refresh paints
     std::int16_t puntero = -1;
     std::int32_t cursor = -1;
 
@@ -55,7 +57,10 @@ class SuperficieGrabadora : public Superficie {
         ++limpiezas;
         trazos.clear();
     }
-    void Refresh() override { ++refrescos; }
+    void Refresh() override {
+        ++refrescos;
+        if (pinta) pinta();
+    }
     using Superficie::Line;
     void Line(std::span<const PuntoXY> cadena) override {
         trazos.push_back({Que::Linea, {cadena.begin(), cadena.end()}, 0, 0, 0, pluma(), 0, {}, 0});
