@@ -60,6 +60,7 @@ Esquema::Esquema(QWidget* padre) : QFrame(padre) {
 Esquema::~Esquema() {
     partes_->terminando = true;
     partes_->panel->lienzo().AlRefrescar({});
+    partes_->panel->lienzo().AlDibujar({});
     partes_->panel->lienzo().AlCambiarPuntero({});
     partes_->trabajo = {};
     partes_->documento.colElementos.reset();

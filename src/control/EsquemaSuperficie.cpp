@@ -253,7 +253,6 @@ void Esquema::Cls() {
     Operacion(". ErrCls (Esquema)", [](Partes& p) {
         p.refresco.AnularRefresco();
         p.panel->lienzo().Cls();
-        p.panel->update();
     });
 }
 

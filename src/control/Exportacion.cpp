@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QPageLayout>
 #include <QPdfWriter>
+#include <QSvgGenerator>
 #include <algorithm>
 #include <cmath>
 
@@ -14,7 +15,6 @@
 #include "platform/Fallo.h"
 #include "platform/ReemplazoDeArchivo.h"
 #include "platform/qt/Lienzo.h"
-#include "platform/qt/LienzoSvg.h"
 #include "platform/qt/LienzoVectorial.h"
 #include "session/Extension.h"
 
@@ -28,6 +28,8 @@ constexpr double PIXELES_POR_UNIDAD = PPP_NORMAL / 25.4;
 constexpr double PUNTOS_POR_UNIDAD = 72 / 25.4;
 constexpr float PUNTOS_DEL_TEXTO = 8;
 
+// Pixels. Qt writes six digits of a coordinate, a tenth of a pixel at the far side.
+constexpr double LADO_MAXIMO_DE_SVG = 100000;
 constexpr int LADO_MAXIMO_DE_PAGINA = 14400;  // points: no reader of PDF need show more
 constexpr const char* AUTOR = "zelvisor";
 
@@ -142,12 +144,24 @@ QImage ImagenDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, i
 QByteArray SvgDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, const QString& titulo,
                         std::optional<int> ancho, QStringList& fallos) {
     const Marco encuadre = Encuadre(elementos);
-    const double milimetros = double{encuadre.Xmax} - encuadre.Xmin;
-    LienzoSvg lienzo(QSizeF(milimetros, double{encuadre.Ymax} - encuadre.Ymin) * PIXELES_POR_UNIDAD);
+    const QSizeF nominal =
+        QSizeF(double{encuadre.Xmax} - encuadre.Xmin, double{encuadre.Ymax} - encuadre.Ymin) *
+        PIXELES_POR_UNIDAD;
+    const double escala = std::min(1.0, LADO_MAXIMO_DE_SVG / std::max(nominal.width(), nominal.height()));
+    QBuffer datos;
+    datos.open(QIODevice::WriteOnly);
+    QSvgGenerator escritor;
+    escritor.setOutputDevice(&datos);
+    escritor.setTitle(titulo);
+    escritor.setDescription(QLatin1String(AUTOR));
+    escritor.setResolution(static_cast<int>(PPP_NORMAL));
+    escritor.setViewBox(QRectF({0, 0}, nominal * escala));
+    escritor.setSize((ancho ? nominal * (*ancho / nominal.width()) : nominal).toSize());
+    LienzoVectorial lienzo(escritor, nominal, escala);
     Encuadra(lienzo, encuadre);
     Pinta(lienzo, elementos, bMostrarLineasOcultas, fallos);
-    return QByteArray::fromStdString(ancho ? lienzo.Documento(titulo.toStdString(), AUTOR, *ancho, "px")
-                                           : lienzo.Documento(titulo.toStdString(), AUTOR, milimetros, "mm"));
+    if (!lienzo.Termina()) throw Fallo(57);
+    return std::move(datos.buffer());
 }
 
 QByteArray PdfDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, const QString& titulo,

@@ -21,7 +21,8 @@ constexpr int ANCHO_NORMAL_DE_IMAGEN = 1600;
 QImage ImagenDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, int ancho,
                        QStringList& fallos);
 
-// The same drawing as SVG: at the nominal scale, or that many pixels wide.
+// The same drawing as SVG: at the nominal scale, or that many pixels wide. Fails with 57 when Qt cannot make
+// it.
 QByteArray SvgDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, const QString& titulo,
                         std::optional<int> ancho, QStringList& fallos);
 

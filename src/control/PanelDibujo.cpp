@@ -16,6 +16,7 @@ constexpr double MM_POR_PULGADA = 25.4;
 PanelDibujo::PanelDibujo(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("Panel"));
     setAttribute(Qt::WA_OpaquePaintEvent);
+    lienzo_.AlDibujar([this] { update(); });
 }
 
 float PanelDibujo::AnchoMm() const {
@@ -26,7 +27,7 @@ float PanelDibujo::AltoMm() const {
 }
 
 void PanelDibujo::paintEvent(QPaintEvent* evento) {
-    const QImage& imagen = lienzo_.Imagen();
+    const QImage& imagen = lienzo_.ImagenQueSeMuestra();
     const double relacion = lienzo_.Relacion();
     QPainter pintor(this);
     pintor.setClipRect(evento->rect());

@@ -53,6 +53,7 @@ Lienzo::Lienzo(QSize pixeles, double relacion) {
 }
 
 void Lienzo::Redimensiona(QSize pixeles, double relacion, double ppp) {
+    Toca();
     QImage nueva = ImagenNormal(pixeles);
     if (nueva.isNull()) throw Fallo(7);
     nueva.fill(ColorQt(BackColor()));
@@ -72,8 +73,20 @@ QImage Lienzo::Entrega() {
     return imagen;
 }
 
+void Lienzo::Toca() {
+    if (tocado_) return;
+    tocado_ = true;
+    if (alDibujar_) alDibujar_();
+}
+
 const QImage& Lienzo::Imagen() {
     AsientaPuntos();
+    return imagen_;
+}
+
+const QImage& Lienzo::ImagenQueSeMuestra() {
+    AsientaPuntos();
+    tocado_ = false;
     return imagen_;
 }
 
@@ -82,6 +95,7 @@ double Lienzo::AnchoDePluma() const noexcept {
 }
 
 void Lienzo::PonPluma() {
+    Toca();
     AsientaPuntos();
     if (hayPlumaPuesta_ && puesta_ == pluma()) return;
     puesta_ = pluma();
@@ -239,6 +253,7 @@ void Lienzo::Circle(PuntoXY centro, float radio, double inicio, double fin) {
 }
 
 void Lienzo::PSet(PuntoXY punto, std::int32_t color) {
+    Toca();
     const std::int32_t negroOColor = pluma().DrawMode == MODO_NEGRO ? 0 : color;
     if (negroOColor != colorDePuntos_ || Invierte() != puntosInvierten_) AsientaPuntos();
     colorDePuntos_ = negroOColor;
@@ -250,6 +265,7 @@ void Lienzo::PSet(PuntoXY punto, std::int32_t color) {
 // Draws the dots that are waiting.
 void Lienzo::AsientaPuntos() {
     if (puntos_.empty()) return;
+    Toca();
     pintor_.setCompositionMode(ModoDeComposicion(puntosInvierten_));
     const QColor color = ColorQt(colorDePuntos_);
     const int lado = std::max(1, qRound(Relacion()));
@@ -263,6 +279,7 @@ void Lienzo::AsientaPuntos() {
 }
 
 void Lienzo::PaintPicture(const zel::Imagen& imagen, PuntoXY esquina, float ancho, float alto) {
+    Toca();
     const ImagenColocada colocada = Coloca(imagen, esquina, ancho, alto);
     const QRectF destino = colocada.destino;
     const QRectF visible = destino & QRectF(imagen_.rect());
@@ -280,6 +297,7 @@ void Lienzo::PaintPicture(const zel::Imagen& imagen, PuntoXY esquina, float anch
 }
 
 void Lienzo::Cls() {
+    Toca();
     puntos_.clear();
     hayPlumaPuesta_ = false;
     pintor_.setCompositionMode(QPainter::CompositionMode_Source);
@@ -291,6 +309,7 @@ void Lienzo::Refresh() {
 }
 
 void Lienzo::Print(std::string_view texto) {
+    Toca();
     AsientaPuntos();
     FuenteDeTexto& fuente = Fuente();
     if (Reduccion() < 1) return;  // less than a pixel high: nothing to be seen

@@ -25,9 +25,13 @@ class Lienzo : public SuperficieQt {
     using SuperficieQt::Relacion;
     // All that has been drawn, in the image's pixels.
     const QImage& Imagen();
+    // The same for the widget that shows it, which is told when there is more to show.
+    const QImage& ImagenQueSeMuestra();
     // The same, handed over; the surface begins anew with one pixel.
     QImage Entrega();
 
+    // Something has been drawn since the image was last shown: told once until it is shown again.
+    void AlDibujar(std::function<void()> accion) { alDibujar_ = std::move(accion); }
     // What Refresh and MousePointer ask of the widget that shows the surface.
     void AlRefrescar(std::function<void()> accion) { alRefrescar_ = std::move(accion); }
     void AlCambiarPuntero(std::function<void(std::int16_t, std::int32_t)> accion) {
@@ -48,6 +52,7 @@ class Lienzo : public SuperficieQt {
 
   private:
     double AnchoDePluma() const noexcept;
+    void Toca();
     void PonPluma();
     void Ajusta(std::vector<QPointF>& puntos) const;
     void Traza();
@@ -63,6 +68,8 @@ class Lienzo : public SuperficieQt {
     std::vector<QPointF> puntos_;  // dots of one colour and mode not yet drawn
     std::int32_t colorDePuntos_ = 0;
     bool puntosInvierten_ = false;
+    bool tocado_ = false;
+    std::function<void()> alDibujar_;
     std::function<void()> alRefrescar_;
     std::function<void(std::int16_t, std::int32_t)> alCambiarPuntero_;
 };

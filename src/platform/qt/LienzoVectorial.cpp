@@ -8,18 +8,17 @@
 
 namespace zel {
 
-LienzoVectorial::LienzoVectorial(QPaintDevice& destino, QSizeF pixeles, double escala) {
+LienzoVectorial::LienzoVectorial(QPaintDevice& destino, QSizeF pixeles, double escala) : escala_(escala) {
     if (!pintor_.begin(&destino)) throw Fallo(57);
-    const double delDispositivo = escala / PPP_NORMAL;
-    pintor_.scale(destino.logicalDpiX() * delDispositivo, destino.logicalDpiY() * delDispositivo);
-    Mide(pixeles, PPP_NORMAL / 72, 1);
+    pintor_.scale(destino.logicalDpiX() / PPP_NORMAL, destino.logicalDpiY() / PPP_NORMAL);
+    Mide(pixeles * escala, escala * PPP_NORMAL / 72, escala);
 }
 
 void LienzoVectorial::PonPluma() {
     if (hayPlumaPuesta_ && puesta_ == pluma()) return;
     puesta_ = pluma();
     hayPlumaPuesta_ = true;
-    pintor_.setPen(PlumaQt(puesta_.DrawWidth));
+    pintor_.setPen(PlumaQt(puesta_.DrawWidth * escala_));
     pintor_.setBrush(puesta_.FillStyle == RELLENO_SOLIDO ? QBrush(ColorDe(puesta_.FillColor)) : Qt::NoBrush);
 }
 
@@ -76,7 +75,8 @@ void LienzoVectorial::Circle(PuntoXY centro, float radio, double inicio, double 
 
 void LienzoVectorial::PSet(PuntoXY punto, std::int32_t color) {
     if (Invierte()) return;
-    pintor_.fillRect(QRectF(EnPixeles(punto) - QPointF(0.5, 0.5), QSizeF(1, 1)), ColorDe(color));
+    pintor_.fillRect(QRectF(EnPixeles(punto) - QPointF(escala_, escala_) / 2, QSizeF(escala_, escala_)),
+                     ColorDe(color));
 }
 
 void LienzoVectorial::PaintPicture(const zel::Imagen& imagen, PuntoXY esquina, float ancho, float alto) {

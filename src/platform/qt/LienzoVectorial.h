@@ -7,13 +7,13 @@
 
 namespace zel {
 
-// The drawing surface on a device that keeps strokes and texts as such (a page of PDF, a printer).
+// The drawing surface on a device that keeps strokes and texts as such (SVG, a page of PDF, a printer).
 // Coordinates are not rounded, pens have their own width, and texts stay texts. What inverts is not drawn: a
 // page cannot, and marks have no place on it.
 class LienzoVectorial : public SuperficieQt {
   public:
-    // Begins painting on the device, which must outlive this; in pixels of PPP_NORMAL to the inch, times
-    // `escala`. Fails with 57 when the device cannot be painted on.
+    // Begins painting on the device, which must outlive this; in pixels of PPP_NORMAL to the inch, all of it
+    // `escala` times as large. Fails with 57 when the device cannot be painted on.
     LienzoVectorial(QPaintDevice& destino, QSizeF pixeles, double escala = 1);
 
     // Ends the painting; false when the device has not taken it.
@@ -32,6 +32,7 @@ class LienzoVectorial : public SuperficieQt {
   private:
     void PonPluma();
 
+    double escala_;
     QPainter pintor_;
     Pluma puesta_;
     bool hayPlumaPuesta_ = false;
