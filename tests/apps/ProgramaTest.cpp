@@ -65,6 +65,9 @@ TEST(Programa, ExportarDrawsThePictureWithoutADisplay) {
     const QImage imagen(QStringLiteral("cuenca.png"));
     EXPECT_EQ(imagen.width(), 500);
     EXPECT_GT(imagen.height(), 200);
+    EXPECT_EQ(Ejecuta("exportar " + CUENCA + " cuenca.svg --ancho 960").codigo, 0);
+    EXPECT_TRUE(Contiene(LeeArchivo("cuenca.svg"), "<svg width=\"254mm\""));
+    EXPECT_EQ(Ejecuta("exportar " + CUENCA + " cuenca.pdf").codigo, 0);
 }
 
 TEST(Programa, ConvertirSavesWhatItReadsAndVerificarTellsWhatIsWrong) {
@@ -109,7 +112,8 @@ TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
         {"exportar " + CUENCA, 3, "Uso:"},
         {"exportar " + CUENCA + " salida.png --ancho doce", 3, "número de píxeles"},
         {"exportar " + CUENCA + " salida.png --ancho 16001", 3, "número de píxeles"},
-        {"exportar " + CUENCA + " salida.jpg", 3, ".png"},
+        {"exportar " + CUENCA + " salida.jpg", 3, ".png, .svg o .pdf"},
+        {"exportar " + CUENCA + " salida.pdf --ancho 300", 3, "quite --ancho"},
         {"exportar " + CUENCA + " no/hay/salida.png", 3, "no se puede escribir"},
         {"exportar nada.xml salida.png", 2, "No se ha encontrado el archivo"},
         {"info .", 2, "no se puede leer \".\""},

@@ -3,8 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QColor>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <filesystem>
 
 #include "file/lectorArchivo.h"
+#include "support/CarpetaTemporal.h"
+#include "support/Resultado.h"
 
 namespace zel::pruebas {
 namespace {
@@ -49,6 +54,74 @@ TEST(Exportacion, TheWholeBasinIsInThePictureAtAnyWidth) {
     EXPECT_NEAR(Tinta(ImagenDeEsquema(*cuenca, true, 3200, fallos), false), tinta, 0.4 * tinta);
     EXPECT_TRUE(fallos.isEmpty()) << fallos.join(u'\n').toStdString();
     EXPECT_NE(ImagenDeEsquema(*cuenca, false, 1600, fallos), normal) << "secondary lines are not seen";
+}
+
+// Where there is ink, on a grid of 40 x 24 cells.
+std::vector<bool> Ocupacion(const QImage& imagen) {
+    const QImage gruesa = imagen.scaled(40, 24, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    std::vector<bool> celdas;
+    for (int y = 0; y < gruesa.height(); ++y) {
+        for (int x = 0; x < gruesa.width(); ++x)
+            celdas.push_back(qGray(gruesa.pixel(x, y)) < 248);
+    }
+    return celdas;
+}
+
+TEST(Exportacion, SvgIsTheSameDrawingWithItsTextsAsTexts) {
+    QStringList fallos;
+    const auto cuenca = Cuenca();
+    const QImage png = ImagenDeEsquema(*cuenca, true, 1600, fallos);
+    const QByteArray svg = SvgDeEsquema(*cuenca, true, QStringLiteral("Cuenca <&>"), std::nullopt, fallos);
+    EXPECT_TRUE(svg.contains("Embalse de El Cañaveral"));
+    QSvgRenderer lector(svg);
+    ASSERT_TRUE(lector.isValid());
+    QImage dibujada(png.size(), QImage::Format_RGB32);
+    dibujada.fill(Qt::white);
+    QPainter pintor(&dibujada);
+    lector.render(&pintor);
+    pintor.end();
+    const auto de = Ocupacion(png);
+    const auto a = Ocupacion(dibujada);
+    int distintas = 0;
+    for (std::size_t i = 0; i < de.size(); ++i)
+        distintas += de[i] != a[i];
+    EXPECT_LT(distintas, 40) << "of " << de.size() << " cells";
+    EXPECT_GT(std::count(de.begin(), de.end(), true), 200);
+    // A schematic as wide as the world keeps the digits of its coordinates.
+    Elementos lejos;
+    lejos.Add(ctNudo, "Aquí", 1, 1, -3000, 0, 0, 0, nullptr, nullptr, "1", 5, 0);
+    lejos.Add(ctNudo, "Allá", 2, 2, 4900000, 0, 0, 0, nullptr, nullptr, "2", 5, 0);
+    const QRectF caja = QSvgRenderer(SvgDeEsquema(lejos, true, {}, std::nullopt, fallos)).viewBoxF();
+    EXPECT_LE(caja.width(), 100000.5);
+    EXPECT_TRUE(fallos.isEmpty());
+}
+
+TEST(Exportacion, PdfIsOnePageOfThePicturesSizeAndTheSameEachTime) {
+    QStringList fallos;
+    const auto cuenca = Cuenca();
+    const QByteArray pdf = PdfDeEsquema(*cuenca, true, QStringLiteral("Cuenca"), fallos);
+    EXPECT_TRUE(pdf.startsWith("%PDF-1."));
+    EXPECT_EQ(pdf.count("/Type /Page\n"), 1);
+    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 1186 699]"))
+        << pdf.mid(pdf.indexOf("/MediaBox"), 40).toStdString();
+    EXPECT_EQ(PdfDeEsquema(*cuenca, true, QStringLiteral("Cuenca"), fallos), pdf);
+}
+
+TEST(Exportacion, AFileThatCannotBeWrittenLeavesNothingAndTheFormatIsTheExtensions) {
+    const CarpetaTemporal carpeta;
+    const auto cuenca = Cuenca();
+    for (const char* archivo : {"a.PNG", "a.svg", "a.pdf"}) {
+        EXPECT_TRUE(ExportaEsquema(QString::fromLatin1(archivo), *cuenca, true, {}, std::nullopt).isEmpty());
+        EXPECT_GT(std::filesystem::file_size(archivo), 10000U) << archivo;
+    }
+    const auto exporta = [&](const char* archivo) {
+        return Resultado([&] {
+            return ExportaEsquema(QString::fromLatin1(archivo), *cuenca, true, {}, std::nullopt).size();
+        });
+    };
+    EXPECT_EQ(exporta("a.jpg"), "!5");
+    EXPECT_EQ(exporta("no/hay.svg"), "!76");
+    EXPECT_FALSE(std::filesystem::exists("a.jpg"));
 }
 
 TEST(Exportacion, SmallSchematicsKeepAReadableScale) {

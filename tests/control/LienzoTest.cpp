@@ -4,6 +4,8 @@
 
 #include <functional>
 
+#include "platform/qt/ImagenQt.h"
+
 namespace zel::pruebas {
 namespace {
 
@@ -259,6 +261,61 @@ TEST(Lienzo, DotsKeepTheirOrderAmongTheOtherStrokes) {
     EXPECT_EQ(hoja.Imagen().pixelColor(50, 39), QColor(255, 0, 0));
     hoja.Cls();
     EXPECT_EQ(Cuenta(hoja.Imagen(), EsBlanco), 100 * 80);
+}
+
+TEST(Lienzo, TextsFollowTheFontAndItsBackground) {
+    Lienzo hoja;
+    Prepara(hoja);
+    hoja.FontSize(20);
+    const float llana = hoja.TextWidth("Cuenca");
+    QFont fuente = hoja.Font();
+    fuente.setBold(true);
+    hoja.Font(fuente);
+    EXPECT_GT(hoja.TextWidth("Cuenca"), llana * 1.02F);
+    const auto tinta = [&](bool subrayada) {
+        fuente.setUnderline(subrayada);
+        hoja.Font(fuente);
+        hoja.Cls();
+        hoja.CurrentX(5);
+        hoja.CurrentY(60);
+        hoja.Print("Cuenca");
+        return Cuenta(hoja.Imagen(), EsNegro);
+    };
+    EXPECT_GT(tinta(true), tinta(false) + 60);
+    hoja.BackColor(ROJO);
+    hoja.Cls();
+    EXPECT_EQ(hoja.Imagen().pixelColor(0, 0), QColor(Qt::red));
+    hoja.BackColor(65535);
+    hoja.FontTransparent(false);
+    hoja.Print("Cuenca");
+    EXPECT_GT(Cuenta(hoja.Imagen(), [](QColor c) { return c == QColor(Qt::yellow); }), 200);
+}
+
+TEST(Lienzo, APictureStandsUprightInItsPlaceAlsoWhereMostOfItIsOutOfSight) {
+    QImage cuatro(2, 2, QImage::Format_RGB32);
+    cuatro.setPixelColor(0, 0, Qt::red);
+    cuatro.setPixelColor(1, 0, Qt::green);
+    cuatro.setPixelColor(0, 1, Qt::blue);
+    cuatro.setPixelColor(1, 1, Qt::yellow);
+    const ImagenQt imagen(cuatro);
+    const struct {
+        PuntoXY esquina;
+        float ancho, alto;
+        QColor arribaIzquierda, abajoDerecha;
+    } casos[] = {{{10, 70}, 80, -60, Qt::red, Qt::yellow},
+                 {{10, 10}, 80, 60, Qt::blue, Qt::green},  // upwards: mirrored
+                 {{-100000, 100040}, 200100, -200000, Qt::red, Qt::yellow}};
+    for (const auto& caso : casos) {
+        Lienzo hoja;
+        Prepara(hoja);
+        hoja.PaintPicture(imagen, caso.esquina, caso.ancho, caso.alto);
+        EXPECT_EQ(hoja.Imagen().pixelColor(15, 15), caso.arribaIzquierda) << caso.esquina.X;
+        EXPECT_EQ(hoja.Imagen().pixelColor(85, 65), caso.abajoDerecha) << caso.esquina.X;
+    }
+    Lienzo fuera;
+    Prepara(fuera);
+    fuera.PaintPicture(imagen, {200, 70}, 50, -50);
+    EXPECT_EQ(Cuenta(fuera.Imagen(), EsBlanco), 8000);
 }
 
 }  // namespace
