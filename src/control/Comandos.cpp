@@ -73,7 +73,8 @@ void Comandos::ArchivoAbrir(const std::string& archNombre) {
         Carga(archNombre, nueva);
         imagen_.AplicaTextos(lector_->LeeImagenFondo());
     } catch (...) {
-        if (vida->viva) {
+        // A call refused in the middle of a load leaves that one's progress in sight.
+        if (vida->viva && !vida->cargando) {
             anfitrion_.TextoEstado(1, std::string(TextoMensajeODesconocido(5217)));
         }
         LanzaErrorVisor(iEstado, ". ErrArchivoAbrir (Esquema)");
@@ -91,6 +92,8 @@ void Comandos::ArchivoAbrir(const std::string& archNombre) {
 
 void Comandos::Carga(const std::string& archNombre, const std::shared_ptr<Elementos>& nueva) {
     const std::shared_ptr<Vida> vida = vida_;
+    motivo_.clear();
+    problemas_.clear();
     if (!lector_) lector_ = std::make_shared<lectorArchivo>();
     const std::shared_ptr<lectorArchivo> lector = lector_;
     auto ultimoTurno = Reloj::now();

@@ -152,7 +152,7 @@ QByteArray SvgDeEsquema(const Elementos& elementos, bool bMostrarLineasOcultas, 
     datos.open(QIODevice::WriteOnly);
     QSvgGenerator escritor;
     escritor.setOutputDevice(&datos);
-    escritor.setTitle(titulo);
+    escritor.setTitle(titulo.toHtmlEscaped());  // goes to the file as it is
     escritor.setDescription(QLatin1String(AUTOR));
     escritor.setResolution(static_cast<int>(PPP_NORMAL));
     escritor.setViewBox(QRectF({0, 0}, nominal * escala));

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QLabel>
-
 #include "bars/qt/StatusBar.h"
 #include "bars/qt/ZelToolBar.h"
 #include "bars/qt/ZelToolBar2.h"

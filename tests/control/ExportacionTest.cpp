@@ -102,7 +102,7 @@ TEST(Exportacion, PdfIsOnePageOfThePicturesSizeAndTheSameEachTime) {
     const QByteArray pdf = PdfDeEsquema(*cuenca, true, QStringLiteral("Cuenca"), fallos);
     EXPECT_TRUE(pdf.startsWith("%PDF-1."));
     EXPECT_EQ(pdf.count("/Type /Page\n"), 1);
-    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 1186 699]"))
+    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 1186.000000 699.000000]"))
         << pdf.mid(pdf.indexOf("/MediaBox"), 40).toStdString();
     EXPECT_EQ(PdfDeEsquema(*cuenca, true, QStringLiteral("Cuenca"), fallos), pdf);
 }

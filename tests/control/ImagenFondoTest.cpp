@@ -1,0 +1,137 @@
+#include <QCheckBox>
+#include <QLineEdit>
+
+#include "control/EnVentana.h"
+
+namespace zel::pruebas {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ImagenFondo : public EnVentana {
+  protected:
+    ImagenFondo() { Encuadra(); }
+    // X from -100 to 300 and Y from 100 to -200.
+    void Encuadra() { esquema.Scale_(Variante(-100), Variante(100), Variante(300), Variante(-200)); }
+    // A red picture.
+    std::string Pinta(const char* nombre, QSize tamanyo) const {
+        QImage imagen(tamanyo, QImage::Format_RGB32);
+        imagen.fill(Qt::red);
+        EXPECT_TRUE(imagen.save(QString::fromLatin1(nombre)));
+        return (carpeta / nombre).string();
+    }
+    void Edita() { Parte<QAction>("menuVisorImagen")->trigger(); }
+    void Escoge(std::optional<std::string> ruta) {
+        dialogos.ResponderArchivo(std::move(ruta));
+        Edita();
+    }
+    QLineEdit* Caja(int i) const { return Parte<QLineEdit>("otbImagenFondo(" + std::to_string(i) + ")"); }
+    std::string Cajas() const {
+        std::string textos;
+        for (int i = 0; i < 4; ++i)
+            textos += Caja(i)->text().toStdString() + " ";
+        return textos;
+    }
+    void Escribe(const char* textos) {
+        const QStringList cuatro = QString::fromLatin1(textos).split(u';');
+        for (int i = 0; i < 4; ++i)
+            Caja(i)->setText(cuatro[i]);
+    }
+    void AlternaOcultar() { Parte<QCheckBox>("Check1OcultarImagenFondo")->click(); }
+    bool HayRojo(float x, float y) { return ColorEn(x, y) == QColor(Qt::red); }
+    bool MarcoAbierto() const { return Parte("FrameImagenFondo")->isVisible(); }
+};
+
+TEST_F(ImagenFondo, AChosenPictureIsPlacedUnderTheElements) {
+    auto nudo = std::make_shared<Elementos>();
+    Numera(*nudo, {Simbolo(ctNudo, {50, -25})});
+    esquema.GetElementos(nudo);
+    Escoge(Pinta("plano.bmp", {100, 50}));
+    EXPECT_TRUE(MarcoAbierto());
+    EXPECT_FALSE(Parte("ToolBar1")->isEnabled());
+    EXPECT_EQ(Estado(1), "Ajuste la posición y tamaño de la imagen de fondo y pulse aceptar");
+    EXPECT_EQ(Cajas(), "0 0 100 0.5 ");
+    for (const PuntoXY dentro : {PuntoXY{2, -2}, {98, -48}})
+        EXPECT_TRUE(HayRojo(dentro.X, dentro.Y)) << dentro.X;
+    for (const PuntoXY fuera : {PuntoXY{-2, -2}, {102, -2}, {50, 3}, {50, -53}})
+        EXPECT_FALSE(HayRojo(fuera.X, fuera.Y)) << fuera.X << " " << fuera.Y;
+    bool nudoDelante = false;
+    for (float r = 3; r < 5; r += 0.2F)
+        nudoDelante = nudoDelante || !HayRojo(50 + r, -25);
+    EXPECT_TRUE(nudoDelante);
+
+    Escribe("-20;30.5 m;200;-0.25");  // upwards
+    Pulsa("cmdImagenFondoVer");
+    EXPECT_TRUE(HayRojo(178, 78));
+    EXPECT_FALSE(HayRojo(178, 83));
+    for (const char* malos : {"1;1;50;0.005", "1;1;50;-0.005", "1;1;50;12", "1;1;0.5;1", "1;1;mucho;1"}) {
+        Escribe(malos);
+        Pulsa("cmdImagenFondoVer");
+        EXPECT_EQ(Cajas(), "-20 30.5 200 -0.25 ") << malos;
+        EXPECT_TRUE(MarcoAbierto());
+    }
+    Escribe("1;1;0;1");
+    Pulsa("cmdImagenFondoAceptar");
+    EXPECT_FALSE(MarcoAbierto()) << "accepting closes, whatever the boxes say";
+    EXPECT_TRUE(Parte("ToolBar1")->isEnabled());
+    EXPECT_EQ(Estado(1), "Preparado");
+    EXPECT_TRUE(HayRojo(178, 78));
+}
+
+TEST_F(ImagenFondo, WithoutAPictureNothingChanges) {
+    Escoge(std::nullopt);
+    for (const std::string& ruta :
+         {carpeta.Escribe("texto.bmp", "no es una imagen"), std::string("no hay")}) {
+        dialogos.Espera("No se puede leer la imagen");
+        Escoge(ruta);
+    }
+    EXPECT_FALSE(MarcoAbierto());
+    EXPECT_EQ(Estado(1), "Preparado");
+    EXPECT_EQ(Cajas(), "0 0 300 1 ");
+}
+
+TEST_F(ImagenFondo, ItGoesWithTheFileHiddenOrRemoved) {
+    fs::create_directory("mapas");
+    Escoge(Pinta("mapas/plano.bmp", {100, 50}));
+    Escribe("10;-20;150;0.4");
+    Pulsa("cmdImagenFondoAceptar");
+    esquema.ArchivoGuardar(u"con.xml"_s);
+    Edita();  // there is one: no dialog
+    AlternaOcultar();
+    EXPECT_TRUE(HayRojo(158, -78)) << "hidden before it was asked for";
+    Pulsa("cmdImagenFondoAceptar");
+    EXPECT_FALSE(HayRojo(158, -78));
+    esquema.ArchivoGuardar(u"oculta.xml"_s);
+    esquema.ArchivoAbrir(u"con.xml"_s);
+    Encuadra();
+    EXPECT_TRUE(HayRojo(158, -78));
+    Parte<QAction>("menuVisorQuitarImagen")->trigger();
+    EXPECT_FALSE(HayRojo(158, -78));
+    EXPECT_TRUE(esquema.bHabidoCambios());
+    esquema.ArchivoGuardar(u"sin.xml"_s);
+    const auto abre = [&](const char* archivo, bool seVe, bool guardaIgual) {
+        esquema.ArchivoAbrir(QString::fromLatin1(archivo));
+        Encuadra();
+        EXPECT_EQ(HayRojo(158, -78), seVe) << archivo;
+        EXPECT_FALSE(HayRojo(162, -78)) << archivo;
+        esquema.ArchivoGuardar(u"otra.xml"_s);
+        EXPECT_EQ(LeeArchivo("otra.xml") == LeeArchivo(archivo), guardaIgual) << archivo;
+    };
+    abre("con.xml", true, true);
+    EXPECT_EQ(Cajas(), "10 -20 150 0.4 ");
+    abre("oculta.xml", false, true);
+    EXPECT_TRUE(Parte<QCheckBox>("Check1OcultarImagenFondo")->isChecked());
+    abre("sin.xml", false, true);
+    fs::remove("plano.bmp");  // the copy beside the schematic
+    abre("con.xml", false, false);
+}
+
+TEST_F(ImagenFondo, AScannedMapOfManyPixelsIsTaken) {
+    Escoge(Pinta("mapa.jpg", {6000, 6000}));
+    EXPECT_EQ(Cajas(), "0 0 6000 1 ");
+    EXPECT_GT(ColorEn(200, -100).red(), 240);
+    EXPECT_LT(ColorEn(200, -100).blue(), 20);
+}
+
+}  // namespace
+}  // namespace zel::pruebas
