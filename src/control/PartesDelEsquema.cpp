@@ -249,7 +249,8 @@ void Esquema::Partes::AtiendeTecla(const QEvent& evento) {
     qint16 mayus = MascaraDeTeclas(tecla);
     EnEntrada([&] {
         if (evento.type() == QEvent::KeyRelease) {
-            if (!tecla.isAutoRepeat()) emit esquema.KeyUp(codigo, mayus);
+            if (tecla.isAutoRepeat()) return;
+            esquema.Llamada(". ErrUserControl_KeyUp (Esquema)", [&] { emit esquema.KeyUp(codigo, mayus); });
             return;
         }
         emit esquema.KeyDown(codigo, mayus);

@@ -83,11 +83,18 @@ void lectorArchivo::Carga() try {
     motivo_.clear();
     registro_.clear();
     esEsquema_ = false;
+    secciones_.reset();
     if (!coleccion_) throw Fallo(91);
     DocumentoXml documento;
+    // From before it is read: a file that changes meanwhile is not taken for the one that was.
+    auto secciones = HuellaDe(nombreArchivo_);
     if (!documento.Carga(nombreArchivo_)) {
         motivo_ = documento.Motivo();
         return;
+    }
+    if (secciones) {
+        LeeSecciones(documento, secciones->imagen, secciones->configuracion);
+        secciones_ = std::move(secciones);
     }
     Lectura lectura(documento);
     xmlNode* const raiz = documento.Raiz();

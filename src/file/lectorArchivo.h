@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -89,8 +90,20 @@ class lectorArchivo {
     std::shared_ptr<Elemento> ElementoDe(std::int32_t codigo) const;
     std::string TextoDelRegistro() const;
 
-    std::optional<zel::Coleccion<std::string>> LeeSeccion(const char* seccion,
-                                                          std::span<const char* const> hijos);
+    // The sections beside the elements, as the last Carga found them, and the file that it read: who asks for
+    // them next, of the same file, is spared another parse of it.
+    struct Secciones {
+        std::string archivo;
+        std::uintmax_t bytes = 0;
+        std::filesystem::file_time_type cambiado;
+        std::optional<std::vector<std::string>> imagen;
+        std::optional<std::vector<std::string>> configuracion;
+    };
+    static void LeeSecciones(const DocumentoXml& documento, std::optional<std::vector<std::string>>& imagen,
+                             std::optional<std::vector<std::string>>& configuracion);
+    static std::optional<Secciones> HuellaDe(const std::string& archivo);
+    std::optional<std::vector<std::string>> LeeSeccion(
+        std::optional<std::vector<std::string>> Secciones::*seccion);
     bool NuevoDocumento();
     bool GuardaElemento(const Elemento& e) noexcept;
     void GuardaLinea(const Puntos& trazado);
@@ -106,6 +119,7 @@ class lectorArchivo {
     std::string motivo_;
     bool esEsquema_ = false;
     std::string registro_;
+    std::optional<Secciones> secciones_;
 
     std::optional<EscritorXml> documento_;  // the one being written
     std::int32_t posicionSinGuardar_ = 0;

@@ -75,6 +75,21 @@ xmlNode* BuscaPrimero(const DocumentoXml& documento, xmlNode* cima, const char* 
     return nodo;
 }
 
+// The texts of a section's children, up to the first that is missing; nothing without the section.
+std::optional<std::vector<std::string>> TextosDeSeccion(const DocumentoXml& documento, const char* seccion,
+                                                        std::span<const char* const> hijos) {
+    xmlNode* const nodo = BuscaPrimero(documento, documento.Raiz(), seccion);
+    if (!nodo) return std::nullopt;
+    std::vector<std::string> textos;
+    std::string memoria;
+    for (const char* hijo : hijos) {
+        const xmlNode* valor = BuscaPrimero(documento, nodo, hijo);
+        if (!valor) break;
+        textos.emplace_back(TextoDe(valor, memoria));
+    }
+    return textos;
+}
+
 bool SonNumeros(std::initializer_list<float> valores) noexcept {
     return std::all_of(valores.begin(), valores.end(), [](float v) { return std::isfinite(v); });
 }
@@ -102,38 +117,55 @@ bool TieneCarpeta(const std::string& ruta) {
 
 }  // namespace
 
-std::optional<Coleccion<std::string>> lectorArchivo::LeeSeccion(const char* seccion,
-                                                                std::span<const char* const> hijos) {
+std::optional<lectorArchivo::Secciones> lectorArchivo::HuellaDe(const std::string& archivo) {
+    std::error_code fallo;
+    Secciones huella;
+    huella.archivo = std::filesystem::weakly_canonical(archivo, fallo).string();
+    if (!fallo) huella.bytes = std::filesystem::file_size(archivo, fallo);
+    if (!fallo) huella.cambiado = std::filesystem::last_write_time(archivo, fallo);
+    return fallo ? std::nullopt : std::optional(std::move(huella));
+}
+
+void lectorArchivo::LeeSecciones(const DocumentoXml& documento,
+                                 std::optional<std::vector<std::string>>& imagen,
+                                 std::optional<std::vector<std::string>>& configuracion) {
+    imagen = TextosDeSeccion(documento, SECCION_IMAGEN, HIJOS_DE_IMAGEN);
+    configuracion = TextosDeSeccion(documento, SECCION_CONFIGURACION, std::span(&VER_LINEAS_SECUNDARIAS, 1));
+}
+
+std::optional<std::vector<std::string>> lectorArchivo::LeeSeccion(
+    std::optional<std::vector<std::string>> Secciones::*seccion) {
+    auto huella = HuellaDe(nombreArchivo_);
+    const auto esLaMisma = [&] {
+        return secciones_->archivo == huella->archivo && secciones_->bytes == huella->bytes &&
+               secciones_->cambiado == huella->cambiado;
+    };
+    if (secciones_ && huella && esLaMisma()) return *secciones_.*seccion;
     DocumentoXml documento;
     if (!documento.Carga(nombreArchivo_)) return std::nullopt;
-    xmlNode* const nodo = BuscaPrimero(documento, documento.Raiz(), seccion);
-    if (!nodo) return std::nullopt;
-    zel::Coleccion<std::string> textos;
-    std::string memoria;
-    for (const char* hijo : hijos) {
-        const xmlNode* valor = BuscaPrimero(documento, nodo, hijo);
-        if (!valor) break;
-        textos.Add(std::string(TextoDe(valor, memoria)), hijo);
-    }
-    return textos;
+    Secciones leidas;
+    LeeSecciones(documento, leidas.imagen, leidas.configuracion);
+    return leidas.*seccion;
 }
 
 std::optional<Coleccion<std::string>> lectorArchivo::LeeImagenFondo() {
-    auto textos = LeeSeccion(SECCION_IMAGEN, HIJOS_DE_IMAGEN);
-    if (!textos || textos->Count() == 0) return textos;
+    const auto textos = LeeSeccion(&Secciones::imagen);
+    if (!textos) return std::nullopt;
     // The file name is stored without its folder, which is the document's.
     const std::string carpeta = ParteRuta(SinEnlaces(nombreArchivo_)).carpeta;
-    zel::Coleccion<std::string> conCarpeta;
-    std::size_t i = 0;
-    for (const std::string& texto : *textos) {
-        conCarpeta.Add(i == 0 ? carpeta + texto : texto, HIJOS_DE_IMAGEN[i]);
-        ++i;
-    }
-    return conCarpeta;
+    zel::Coleccion<std::string> conClaves;
+    for (std::size_t i = 0; i < textos->size(); ++i)
+        conClaves.Add(i == 0 ? carpeta + (*textos)[i] : (*textos)[i], HIJOS_DE_IMAGEN[i]);
+    return conClaves;
 }
 
 std::optional<Coleccion<std::string>> lectorArchivo::LeeConfiguracion() {
-    return LeeSeccion(SECCION_CONFIGURACION, std::span(&VER_LINEAS_SECUNDARIAS, 1));
+    const auto textos = LeeSeccion(&Secciones::configuracion);
+    if (!textos) return std::nullopt;
+    zel::Coleccion<std::string> conClaves;
+    for (const std::string& texto : *textos)
+        conClaves.Add(texto, VER_LINEAS_SECUNDARIAS);
+    return conClaves;
 }
 
 // An empty schematic goes to the file before anything else: whether it can be written shows at once.
