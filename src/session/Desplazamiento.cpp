@@ -22,6 +22,16 @@ struct Recorrido {
     double visible;  // length shown
 };
 
+std::int16_t Posicion(double valor) {
+    try {
+        return Entero16(valor);
+    } catch (const Fallo& fallo) {
+        throw Fallo(fallo.Number(),
+                    "Esta parte del esquema está más allá de donde llegan las barras de desplazamiento (de "
+                    "-32768 a 32767 unidades). Use el zoom, la mano o el autoajuste para moverse por ella");
+    }
+}
+
 std::int16_t Paso(double visible, double recorrido) {
     const double medio = std::floor(visible / 2);
     if (medio < 1 || recorrido <= 0) return 1;
@@ -31,13 +41,13 @@ std::int16_t Paso(double visible, double recorrido) {
 // Fails with 6 when 16 bits do not hold it.
 BarraDesplazamiento::Estado EstadoDe(const Recorrido& r, bool limitado) {
     if (limitado) {
-        const std::int16_t fija = Entero16(r.posicion);
+        const std::int16_t fija = Posicion(r.posicion);
         return {fija, fija, 1, fija};
     }
-    const std::int16_t primero = Entero16(std::floor(r.primero));
-    std::int16_t ultimo = Entero16(std::floor(r.ultimo));
+    const std::int16_t primero = Posicion(std::floor(r.primero));
+    std::int16_t ultimo = Posicion(std::floor(r.ultimo));
     if (std::abs(ultimo - primero) < RECORRIDO_MINIMO) ultimo = primero;
-    const std::int16_t posicion = Entero16(std::floor(r.posicion));
+    const std::int16_t posicion = Posicion(std::floor(r.posicion));
     const auto [menor, mayor] = std::minmax(primero, ultimo);
     const bool dentro = menor <= posicion && posicion <= mayor;
     // The last position, missed by the rounding of the view's edge.
