@@ -49,10 +49,6 @@ Comandos::Comandos(Superficie& panel, Documento& documento, Trabajo& trabajo, Re
       imagen_(imagen),
       cedeTurno_(std::move(cedeTurno)) {}
 
-Comandos::~Comandos() {
-    vida_->viva = false;
-}
-
 void Comandos::ExigeLibre() const {
     if (vida_->cargando) throw Fallo(5, "Hay un esquema cargándose. Espere a que termine");
 }
@@ -143,6 +139,7 @@ void Comandos::AceptaColeccion(std::shared_ptr<Elementos> nueva) {
     estados_.BorrarVariablesEstado(false);
     trabajo_.trazadoTemporal.reset();
     desplazamiento_.NuevoDocumento();
+    imagen_.CierraFrame();
 }
 
 void Comandos::PonColeccion(std::shared_ptr<Elementos> elementos) {

@@ -22,7 +22,7 @@ class Comandos {
              ImagenFondo& imagen, std::function<void()> cedeTurno);
     Comandos(const Comandos&) = delete;
     Comandos& operator=(const Comandos&) = delete;
-    ~Comandos();
+    ~Comandos() { Termina(); }
 
     void ArchivoAbrir(const std::string& archNombre);
     void ArchivoGuardar(const std::string& archNombre);
@@ -35,6 +35,9 @@ class Comandos {
     // Replaces the schematic: what was in hand belonged to the earlier one. Raises without one, and while
     // one is being loaded.
     void PonColeccion(std::shared_ptr<Elementos> elementos);
+
+    // The control goes: a load under way ends at its next turn.
+    void Termina() noexcept { vida_->viva = false; }
 
     bool Cargando() const noexcept { return vida_->cargando; }
     // Of the last schematic opened: why its file could not be read (empty when it could), and what was

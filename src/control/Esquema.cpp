@@ -1,6 +1,7 @@
 #include "control/Esquema.h"
 
 #include <QEvent>
+#include <QPointer>
 #include <QResizeEvent>
 #include <QShowEvent>
 #include <cmath>
@@ -16,6 +17,7 @@ namespace {
 
 constexpr std::int16_t VERDADERO = -1;
 constexpr std::int32_t NINGUNO = -1;
+constexpr float LADO_MAXIMO = 1e6F;  // millimetres
 
 bool EsEntrada(const QEvent& evento) {
     switch (evento.type()) {
@@ -46,7 +48,7 @@ std::span<const std::int32_t> Lista(const QList<qint32>& valores) {
 
 Esquema::Esquema(QWidget* padre) : QFrame(padre) {
     try {
-        partes_ = std::make_unique<Partes>(*this);
+        partes_ = std::make_shared<Partes>(*this);
         Partes& p = *partes_;
         p.UserControl_Resize();
         p.estados.Estado(E_PREPARADO, 1);
@@ -58,11 +60,12 @@ Esquema::Esquema(QWidget* padre) : QFrame(padre) {
 
 // The parts go first: what they tell while they go is for nobody.
 Esquema::~Esquema() {
-    partes_->terminando = true;
     partes_->panel->lienzo().AlRefrescar({});
     partes_->panel->lienzo().AlDibujar({});
     partes_->panel->lienzo().AlCambiarPuntero({});
+    partes_->comandos.Termina();
     partes_->trabajo = {};
+    partes_->trabajo.bTerminado = true;
     partes_->documento.colElementos.reset();
     const QWidgetList partes = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
     for (auto* parte : partes)
@@ -79,7 +82,10 @@ qint32 Esquema::SeleccionaElemento(qint32 codigo, bool centrar, const char* sufi
         const auto e = p.documento.colElementos->ItemCodSIG(codigo);
         if (e) {
             p.trabajo.elemSeleccionado = e;
-            if (centrar) p.vista.MueveScroll(e->XPos(), e->YPos(), 2);
+            if (centrar) {
+                p.ajustaAlMostrar = false;
+                p.vista.MueveScroll(e->XPos(), e->YPos(), 2);
+            }
         }
         p.refresco.RefrescarSiPendiente();
         return e ? codigo : NINGUNO;
@@ -122,7 +128,7 @@ std::shared_ptr<Elemento> Esquema::SeleccionadoParaCambiar(const char* sinSelecc
 
 QString Esquema::NombreElemento() const {
     return Llamada(". Error en Property Get NombreElemento (Esquema)", [&] {
-        const auto& e = partes_->trabajo.elemSeleccionado;
+        const auto& e = partes_->Seleccionado();
         return e ? QString::fromStdString(e->Nombre()) : QString();
     });
 }
@@ -137,7 +143,7 @@ void Esquema::NombreElemento(const QString& valor) {
 
 qint32 Esquema::CodigoElemento() const {
     return Llamada(". Error en Property Get CodigoElemento (Esquema)", [&] {
-        const auto& e = partes_->trabajo.elemSeleccionado;
+        const auto& e = partes_->Seleccionado();
         return e ? e->gfCodSIG() : NINGUNO;
     });
 }
@@ -152,7 +158,7 @@ void Esquema::CodigoElemento(qint32 valor) {
 
 qint16 Esquema::NumeroPantallaElemento() const {
     return Llamada(". Error en Property Get NumeroPantallaElemento (Esquema)", [&]() -> qint16 {
-        const auto& e = partes_->trabajo.elemSeleccionado;
+        const auto& e = partes_->Seleccionado();
         return e ? e->KeyPant() : VERDADERO;
     });
 }
@@ -170,7 +176,7 @@ void Esquema::NumeroPantallaElemento(qint16 valor) {
 
 qint16 Esquema::TipoElemento() const {
     return Llamada(". Error en Property Get TipoElemento (Esquema)", [&]() -> qint16 {
-        const auto& e = partes_->trabajo.elemSeleccionado;
+        const auto& e = partes_->Seleccionado();
         if (!e) return VERDADERO;
         if (!TipoConocido(e->Tipo())) throw Fallo(9);
         return CODIGOS_DE_TIPO[static_cast<std::size_t>(e->Tipo())];
@@ -206,14 +212,16 @@ void Esquema::SetElementos(std::shared_ptr<Elementos> elementos) {
 // --- Documents --------------------------------------------------------------------------------------------
 
 void Esquema::ArchivoAbrir(const QString& archNombre) {
-    partes_->ExigeDisposicion();
-    partes_->ajustaAlMostrar = !partes_->seHaMostrado;
-    partes_->comandos.ArchivoAbrir(archNombre.toStdString());
+    const std::shared_ptr<Partes> vivas = partes_;
+    vivas->ExigeDisposicion();
+    vivas->ajustaAlMostrar = !vivas->seHaMostrado;
+    vivas->comandos.ArchivoAbrir(archNombre.toStdString());
 }
 
 void Esquema::ArchivoGuardar(const QString& archNombre) {
-    partes_->pintado.SueltaAjenos();
-    partes_->comandos.ArchivoGuardar(archNombre.toStdString());
+    const std::shared_ptr<Partes> vivas = partes_;
+    vivas->pintado.SueltaAjenos();
+    vivas->comandos.ArchivoGuardar(archNombre.toStdString());
 }
 
 QString Esquema::MotivoSinLeer() const {
@@ -263,7 +271,8 @@ void Esquema::bMostrarLineasOcultas(bool valor) {
 // --- View -------------------------------------------------------------------------------------------------
 
 void Esquema::ResizeGrafo() {
-    Partes& p = *partes_;
+    const std::shared_ptr<Partes> vivas = partes_;
+    Partes& p = *vivas;
     p.ExigeDisposicion();
     p.ajustaAlMostrar = !p.seHaMostrado;
     p.vista.AjustarImagen(p.panel->lienzo(), 1);
@@ -279,7 +288,9 @@ void Esquema::AjustarAVentana(const std::optional<Variante>& fLeft, const std::o
         const Guardia ajustando(p.bAjustandoVentana, true);
         // The container's own scale begins at (0, 0).
         const auto lado = [](const std::optional<Variante>& dado, float faltando) {
-            return dado ? dado->Real32() : faltando;
+            const float mm = dado ? dado->Real32() : faltando;
+            if (!(std::abs(mm) <= LADO_MAXIMO)) throw Fallo(6);
+            return mm;
         };
         const float izquierda = lado(fLeft, 0);
         const float arriba = lado(fTop, 0);
@@ -289,6 +300,7 @@ void Esquema::AjustarAVentana(const std::optional<Variante>& fLeft, const std::o
                     p.PixelesDeMm(alto));
         p.UserControl_Resize();
         if (const auto aviso = p.desplazamiento.ActualizaVista(2)) dialogos().MsgBox(*aviso);
+        p.trabajo.ExigeVisor();
         p.bAjustandoVentana = false;
         p.refresco.PedirRefresco();
         p.refresco.RefrescarSiPendiente();
@@ -296,18 +308,24 @@ void Esquema::AjustarAVentana(const std::optional<Variante>& fLeft, const std::o
 }
 
 bool Esquema::CambiaZoom(double factor) {
-    Partes& p = *partes_;
+    const std::shared_ptr<Partes> vivas = partes_;
+    Partes& p = *vivas;
     p.ExigeDisposicion();
+    p.ajustaAlMostrar = false;
     return p.vista.AjustarZoomUsuario(p.panel->lienzo(), static_cast<float>(p.vista.Zoom() * factor), true,
                                       true, 1);
 }
 
 void Esquema::DesplazaVista(double ancho, double alto) {
-    Partes& p = *partes_;
-    p.ExigeDisposicion();
-    const Lienzo& lienzo = p.panel->lienzo();
-    p.vista.MueveScroll(lienzo.ScaleLeft() + lienzo.ScaleWidth() * static_cast<float>(0.5 + ancho),
-                        lienzo.ScaleTop() + lienzo.ScaleHeight() * static_cast<float>(0.5 - alto), 1);
+    Llamada(". Error en método DesplazaVista (Esquema)", [&] {
+        Partes& p = *partes_;
+        if (!std::isfinite(ancho) || !std::isfinite(alto)) throw Fallo(5);
+        p.ExigeDisposicion();
+        p.ajustaAlMostrar = false;
+        const Lienzo& lienzo = p.panel->lienzo();
+        p.vista.MueveScroll(lienzo.ScaleLeft() + lienzo.ScaleWidth() * static_cast<float>(0.5 + ancho),
+                            lienzo.ScaleTop() + lienzo.ScaleHeight() * static_cast<float>(0.5 - alto), 1);
+    });
 }
 
 void Esquema::textoStatBar(const QString& texto) {
@@ -317,10 +335,14 @@ void Esquema::textoStatBar(const QString& texto) {
 // --- Events of the platform -------------------------------------------------------------------------------
 
 bool Esquema::eventFilter(QObject* objeto, QEvent* evento) {
-    if (!partes_ || partes_->terminando) return false;
+    if (!partes_ || partes_->trabajo.bTerminado) return false;
     if (partes_->comandos.Cargando() && EsEntrada(*evento)) return true;
     const bool tecla = evento->type() == QEvent::KeyPress || evento->type() == QEvent::KeyRelease;
-    if (tecla && partes_->AtiendeTeclasDe(objeto)) partes_->AtiendeTecla(*evento);
+    if (tecla && partes_->AtiendeTeclasDe(objeto)) {
+        const QPointer<Esquema> vivo(this);
+        partes_->AtiendeTecla(*evento);
+        if (!vivo) return true;
+    }
     return QFrame::eventFilter(objeto, evento);
 }
 

@@ -19,7 +19,9 @@ namespace zel {
 // Codes are gfCodSIG. World units: X in (-4000, 5000000), Y in (-5000, 2500000), Y upwards. Colours are
 // red + 256 green + 65536 blue. Every call that fails raises zel::Error, whose Description() is the chain of
 // failures, unless told otherwise; one in answer to an event of the platform comes as ErrorEnEvento.
-// A call ends any interaction under way (state 5, "Preparado") and repaints at most once.
+// The calls on elements and documents, Refresh and Cls end any interaction under way (state 5, "Preparado");
+// all repaint at most once. A call or an event whose host destroys the control meanwhile (in a slot, or while
+// one of its boxes is open) ends there; a call raises.
 //
 // Parts, found by their object name: Panel, HScroll, VScroll, ToolBar1, ToolBar2, StatusBar1, Line1, Line2,
 // FrameImagenFondo with its boxes. Menu commands are QActions named after their item.
@@ -94,8 +96,9 @@ class Esquema : public QFrame {
     QString MotivoSinLeer() const;
     QString ProblemasDeCarga() const;
 
-    // Stores a copy of an element of the host, under its code, and counts it as the newest. Raises the
-    // platform's failure, with the collection unchanged, when the code is taken.
+    // Stores a copy of an element of the host, under its code, and counts it as the newest. With the
+    // collection unchanged it raises the platform's failure itself (zel::Fallo): 457 a code that is taken, 91
+    // no element, 9 a kind outside 0 to 15, 6 no number left.
     void AddElemento(const std::shared_ptr<Elemento>& elem);
     // Numbers on the screen, or names, for many elements at once: entry i of the second list for the code in
     // entry i of the first. The last entry is not applied. False when one could not be: those before it are.
@@ -128,7 +131,8 @@ class Esquema : public QFrame {
     // The zoom times the factor, around the centre: below 1 a closer view. False when that would be beyond
     // the closest or the farthest view, which a notice has told.
     bool CambiaZoom(double factor);
-    // Moves the view by shares of its width and height, to the right and upwards.
+    // Moves the view by shares of its width and height, to the right and upwards. Raises for what is no
+    // number.
     void DesplazaVista(double ancho, double alto);
 
     void textoStatBar(const QString& texto);
@@ -141,13 +145,14 @@ class Esquema : public QFrame {
     void BackColor(qint32 valor);
     qint32 ForeColor() const;
     void ForeColor(qint32 valor);
-    // The panel's window id.
+    // The id of the window that the panel is drawn in.
     qint32 hdc() const;
-    // The schematic, or the subsystem while one is selected, at four times the panel's resolution.
+    // The schematic, or the subsystem while one is selected, at four times the panel's resolution. Raises
+    // when there is no memory for it or an element cannot be drawn.
     QImage Picture();
 
     // The visible part of the world. ScaleHeight is stored negative, since Y grows upwards, and setting it
-    // does not repaint. A width or height that is 0 or no number raises.
+    // does not repaint. Raises for what is no number and for a width or height below 0.001 or above 1e9.
     float ScaleLeft() const;
     void ScaleLeft(float valor);
     float ScaleTop() const;
@@ -171,6 +176,7 @@ class Esquema : public QFrame {
     float ScaleY(float valor, const std::optional<Variante>& FromScale = std::nullopt,
                  const std::optional<Variante>& ToScale = std::nullopt);
 
+    // Of the panel's texts. Each repaint sets the size anew, by the zoom, and leaves ForeColor black.
     QFont Font() const;
     bool FontBold() const;
     void FontBold(bool valor);
@@ -236,7 +242,7 @@ class Esquema : public QFrame {
     void PonFuentePanel(const char* sufijo, Accion accion);
     qint32 SeleccionaElemento(qint32 codigo, bool centrar, const char* sufijo);
 
-    std::unique_ptr<Partes> partes_;
+    std::shared_ptr<Partes> partes_;  // outlives the control while a call has not come back
 };
 
 }  // namespace zel

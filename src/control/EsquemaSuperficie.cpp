@@ -18,8 +18,14 @@ namespace {
 constexpr int AUMENTO_DE_PICTURE = 4;
 constexpr float AUMENTO_DEL_TEXTO = 5;
 
+// World units; between them the zoom and the text sizes stay numbers.
+constexpr float LADO_MINIMO_DE_ESCALA = 1e-3F;
+constexpr float LADO_MAXIMO_DE_ESCALA = 1e9F;
+
 float LadoDeEscala(float valor) {
-    if (!std::isfinite(valor) || valor == 0) throw Fallo(5);
+    if (!(std::abs(valor) >= LADO_MINIMO_DE_ESCALA) || !(std::abs(valor) <= LADO_MAXIMO_DE_ESCALA)) {
+        throw Fallo(5);
+    }
     return valor;
 }
 
@@ -95,20 +101,28 @@ float Esquema::ScaleLeft() const {
     return Llamada(". ErrGetScaleLeft (Esquema)", [&] { return partes_->panel->lienzo().ScaleLeft(); });
 }
 void Esquema::ScaleLeft(float valor) {
-    PonPropiedad(". ErrLetScaleLeft (Esquema)", [&](Lienzo& l) { l.ScaleLeft(Posicion(valor)); });
+    PonPropiedad(". ErrLetScaleLeft (Esquema)", [&](Lienzo& l) {
+        partes_->ajustaAlMostrar = false;
+        l.ScaleLeft(Posicion(valor));
+    });
 }
 float Esquema::ScaleTop() const {
     return Llamada(". ErrGetScaleTop (Esquema)", [&] { return partes_->panel->lienzo().ScaleTop(); });
 }
 void Esquema::ScaleTop(float valor) {
-    PonPropiedad(". ErrLetScaleTop (Esquema)", [&](Lienzo& l) { l.ScaleTop(Posicion(valor)); });
+    PonPropiedad(". ErrLetScaleTop (Esquema)", [&](Lienzo& l) {
+        partes_->ajustaAlMostrar = false;
+        l.ScaleTop(Posicion(valor));
+    });
 }
 float Esquema::ScaleWidth() const {
     return Llamada(". ErrGetScaleWidth (Esquema)", [&] { return partes_->panel->lienzo().ScaleWidth(); });
 }
 void Esquema::ScaleWidth(float valor) {
-    PonPropiedad(". ErrLetScaleWidth (Esquema)",
-                 [&](Lienzo& l) { l.ScaleWidth(std::abs(LadoDeEscala(valor))); });
+    PonPropiedad(". ErrLetScaleWidth (Esquema)", [&](Lienzo& l) {
+        partes_->ajustaAlMostrar = false;
+        l.ScaleWidth(std::abs(LadoDeEscala(valor)));
+    });
 }
 float Esquema::ScaleHeight() const {
     return Llamada(". ErrGetScaleHeight (Esquema)", [&] { return partes_->panel->lienzo().ScaleHeight(); });
@@ -152,6 +166,7 @@ void Esquema::Scale_(const std::optional<Variante>& x1, const std::optional<Vari
         const float arriba = Posicion(y1->Real32());
         const float ancho = LadoDeEscala(x2->Real32() - izquierda);
         const float alto = LadoDeEscala(y2->Real32() - arriba);
+        partes_->ajustaAlMostrar = false;
         l.ScaleLeft(izquierda);
         l.ScaleTop(arriba);
         l.ScaleWidth(std::abs(ancho));

@@ -49,9 +49,11 @@ double NumeroDe(std::string texto) {
 
 }  // namespace
 
-ImagenFondo::ImagenFondo(QWidget* visor, Documento& documento, Refresco& refresco, MaquinaEstados& estados,
-                         Anfitrion& anfitrion, DialogoComun& dialogo, std::function<void()> ver)
+ImagenFondo::ImagenFondo(QWidget* visor, Documento& documento, const Trabajo& trabajo, Refresco& refresco,
+                         MaquinaEstados& estados, Anfitrion& anfitrion, DialogoComun& dialogo,
+                         std::function<void()> ver)
     : documento_(documento),
+      trabajo_(trabajo),
       refresco_(refresco),
       estados_(estados),
       anfitrion_(anfitrion),
@@ -144,6 +146,7 @@ bool ImagenFondo::Elige() {
     dialogo_.Filtro(
         "Archivos de imagen(*.bmp)|*.bmp|Archivos de imagen(*.jpg)|*.jpg|Todos los archivos(*.*)|*.*");
     const std::string ruta = dialogo_.ShowOpen();
+    trabajo_.ExigeVisor();
     if (ruta.empty()) return false;
     if (QFileInfo::exists(QString::fromStdString(ruta)) && Carga(ruta)) {
         sArchivoImagenFondo_ = ruta;
@@ -153,6 +156,7 @@ bool ImagenFondo::Elige() {
     }
     dialogos().MsgBox("No se puede leer la imagen \"" + ruta +
                       "\". Escoja un archivo de imagen BMP, JPEG o PNG.");
+    trabajo_.ExigeVisor();
     return false;
 }
 
@@ -202,6 +206,13 @@ void ImagenFondo::cmdImagenFondoAceptar_Click() {
     estados_.Estado(E_PREPARADO, 1);
     anfitrion_.BarraElementosActiva(true);
     refresco_.RefrescarSiPendiente();
+}
+
+void ImagenFondo::CierraFrame() {
+    if (frame_->isHidden()) return;
+    frame_->hide();
+    frame_->setEnabled(false);
+    anfitrion_.BarraElementosActiva(true);
 }
 
 void ImagenFondo::AplicaTextos(const std::optional<Coleccion<std::string>>& textos) {

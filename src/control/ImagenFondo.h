@@ -21,8 +21,9 @@ namespace zel {
 class ImagenFondo {
   public:
     // `ver` repaints the schematic with the picture and without marks.
-    ImagenFondo(QWidget* visor, Documento& documento, Refresco& refresco, MaquinaEstados& estados,
-                Anfitrion& anfitrion, DialogoComun& dialogo, std::function<void()> ver);
+    ImagenFondo(QWidget* visor, Documento& documento, const Trabajo& trabajo, Refresco& refresco,
+                MaquinaEstados& estados, Anfitrion& anfitrion, DialogoComun& dialogo,
+                std::function<void()> ver);
 
     // Asks for a picture when there is none, and opens the frame.
     void Edita();
@@ -30,6 +31,9 @@ class ImagenFondo {
     // The frame's buttons: put what the boxes say into effect; the same and close the frame.
     void cmdImagenFondoVer_Click();
     void cmdImagenFondoAceptar_Click();
+
+    // Another schematic: the picture that was being placed was the earlier one's.
+    void CierraFrame();
 
     // From a file's section; nothing, or one whose picture cannot be read, leaves no picture.
     void AplicaTextos(const std::optional<Coleccion<std::string>>& textos);
@@ -55,6 +59,7 @@ class ImagenFondo {
     void Caja(std::size_t i, double valor);
 
     Documento& documento_;
+    const Trabajo& trabajo_;
     Refresco& refresco_;
     MaquinaEstados& estados_;
     Anfitrion& anfitrion_;

@@ -47,7 +47,7 @@ Esquema::Partes::Partes(Esquema& dueno)
       gestos(panel->lienzo(), trabajo, refresco, vista, avisos, estados, [this] { UserControl_Resize(); }),
       herramientas(panel->lienzo(), trabajo, refresco, vista, avisos, estados, gestos, *this),
       entrada(panel->lienzo(), trabajo, refresco, vista, avisos, estados, gestos, localizador, *this),
-      imagen(&dueno, documento, refresco, estados, *this, commonDialog1,
+      imagen(&dueno, documento, trabajo, refresco, estados, *this, commonDialog1,
              [this] { pintado.PintaSinMarcas(); }),
       comandos(panel->lienzo(), documento, trabajo, refresco, vista, desplazamiento, estados, *this, imagen,
                [] { QCoreApplication::processEvents(); }) {
@@ -58,6 +58,9 @@ Esquema::Partes::Partes(Esquema& dueno)
     panel->setFocusPolicy(Qt::StrongFocus);
     panel->setMouseTracking(true);
     panel->setAccessibleName(QStringLiteral("Esquema"));
+    // Their own menu would speak the language of the host's toolkit.
+    hScroll->setContextMenuPolicy(Qt::NoContextMenu);
+    vScroll->setContextMenuPolicy(Qt::NoContextMenu);
     hScroll->setAccessibleName(QStringLiteral("Desplazamiento horizontal"));
     vScroll->setAccessibleName(QStringLiteral("Desplazamiento vertical"));
     esquema.setFocusProxy(panel);
@@ -157,6 +160,7 @@ void Esquema::Partes::BarraElementosActiva(bool activa) {
 void Esquema::Partes::PeticionBorrado(std::int32_t gfCodSIG) {
     qint32 codigo = gfCodSIG;
     emit esquema.PeticionBorrado(codigo);
+    trabajo.ExigeVisor();
 }
 
 // --- Layout -----------------------------------------------------------------------------------------------
@@ -254,6 +258,7 @@ void Esquema::Partes::AtiendeTecla(const QEvent& evento) {
             return;
         }
         emit esquema.KeyDown(codigo, mayus);
+        trabajo.ExigeVisor();
         qint16 ascii = CaracterDeTecla(tecla);
         if (ascii != 0) emit esquema.KeyPress(ascii);
     });

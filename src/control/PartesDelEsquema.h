@@ -35,11 +35,14 @@ struct Esquema::Partes : public Anfitrion {
     // The one boundary between the control's failures and the platform's events.
     template <typename Accion>
     void EnEvento(Accion accion) {
-        if (terminando) return;
+        if (trabajo.bTerminado) return;
+        // The parts stay for as long as what has begun here goes on.
+        const std::shared_ptr<Partes> vivas = esquema.partes_;
         try {
             pintado.SueltaAjenos();
             accion();
         } catch (...) {
+            if (trabajo.bTerminado) return;
             const Fallo fallo = FalloEnCurso();
             emit esquema.ErrorEnEvento(fallo.Number(), QString::fromStdString(fallo.Source()),
                                        QString::fromStdString(fallo.Description()));
@@ -48,7 +51,13 @@ struct Esquema::Partes : public Anfitrion {
     // The same for what the user does: dropped while a schematic is being loaded.
     template <typename Accion>
     void EnEntrada(Accion accion) {
-        if (!terminando && !comandos.Cargando()) EnEvento(accion);
+        if (!trabajo.bTerminado && !comandos.Cargando()) EnEvento(accion);
+    }
+
+    // The selected element, if the host has left it in the schematic.
+    const std::shared_ptr<Elemento>& Seleccionado() noexcept {
+        pintado.SueltaAjenos();
+        return trabajo.elemSeleccionado;
     }
 
     void Conecta();
@@ -99,17 +108,17 @@ struct Esquema::Partes : public Anfitrion {
     std::int16_t modoDeEscala = MODO_MILIMETROS;
     bool bAjustandoVentana = false;
     bool disponiendo = false;
-    bool terminando = false;
     bool seHaMostrado = false;
     bool ajustaAlMostrar = false;
 };
 
 template <typename Accion>
 auto Esquema::Llamada(const char* sufijo, Accion accion) const {
+    const std::shared_ptr<Partes> vivas = partes_;
     try {
         return accion();
     } catch (...) {
-        LanzaErrorVisor(partes_->trabajo.iEstado, sufijo);
+        LanzaErrorVisor(vivas->trabajo.iEstado, sufijo);
     }
 }
 
@@ -127,9 +136,10 @@ auto Esquema::Operacion(const char* sufijo, Accion accion) {
 template <typename Accion>
 void Esquema::PonPropiedad(const char* sufijo, Accion accion) {
     Llamada(sufijo, [&] {
-        accion(partes_->panel->lienzo());
-        partes_->refresco.PedirRefresco();
-        partes_->refresco.RefrescarSiPendiente();
+        Partes& p = *partes_;
+        accion(p.panel->lienzo());
+        p.refresco.PedirRefresco();
+        p.refresco.RefrescarSiPendiente();
     });
 }
 

@@ -117,6 +117,7 @@ void GestosDeVista::ZoomDelUsuario() {
     std::int32_t iRefrescar = 1;
     const auto respuesta = dialogos().InputBox(std::string(TextoMensajeODesconocido(PREGUNTA_ZOOM)), {},
                                                TextoDeNumero(RedondeaPar(double{vista_.Zoom()} * 100)));
+    trabajo_.ExigeVisor();
     if (!respuesta || respuesta->empty()) return;
     const auto porcentaje = NumeroDeUsuario(*respuesta);
     if (!porcentaje) {

@@ -29,6 +29,7 @@ void Avisos::LanzaMensaje(std::int16_t idMensaje, std::int16_t idMensaje2, std::
     std::string texto = Texto(idMensaje);
     if (idMensaje2 != 0) texto += ". " + Texto(idMensaje2);
     dialogos().MsgBox(texto);
+    trabajo_.ExigeVisor();
     if (iRefrescar == 1) refresco_.PedirRefresco();
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrLanzaMensaje (Esquema)");

@@ -96,6 +96,7 @@ void Pintado::Avisa(const std::vector<std::string>& fallos) {
                      (quedan == 1 ? " fallo más de dibujo." : " fallos más de dibujo.");
         }
         dialogos().MsgBox(texto);
+        trabajo_.ExigeVisor();
     }
 }
 

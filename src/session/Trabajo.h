@@ -28,6 +28,13 @@ struct Trabajo {
     bool bCuerpoElemento = false;
     std::int16_t iSegmentoEncontrado = 0;
 
+    // The control is gone. Events run while the host answers one or a box is open, so it may be when they
+    // come back: what goes on then must not touch it.
+    bool bTerminado = false;
+    void ExigeVisor() const {
+        if (bTerminado) throw Fallo(91, "El visor se ha cerrado");
+    }
+
     bool bDepurarEstado = false;  // the status bar shows the state instead of the mouse position
 };
 

@@ -63,14 +63,14 @@ void Vista::Dispone(float ancho, float alto) try {
         panel_.ScaleHeight(-alto);
         PrimeraDisposicion();
     } else {
-        const float unidadesPorMm = panel_.ScaleWidth() / anchoPanel_;
         const float anterior = panel_.ScaleWidth();
-        panel_.ScaleWidth(ancho * unidadesPorMm);
-        panel_.ScaleHeight(-alto * unidadesPorMm);
+        panel_.ScaleWidth(panel_.ScaleWidth() / anchoPanel_ * ancho);
+        panel_.ScaleHeight(-std::abs(panel_.ScaleHeight()) / altoPanel_ * alto);
         escalaDibujo_ = escalaDibujo_ / anterior * panel_.ScaleWidth();
         MuestraZoom(false);
     }
     anchoPanel_ = ancho;
+    altoPanel_ = alto;
     relacionAspecto_ = std::abs(panel_.ScaleWidth() / panel_.ScaleHeight());
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrUserControl_Resize (Esquema)");

@@ -31,7 +31,7 @@ class Vista {
 
     // As if that were the first layout.
     void DisponeDeNuevo(float ancho, float alto) {
-        anchoPanel_ = 0;
+        anchoPanel_ = altoPanel_ = 0;
         Dispone(ancho, alto);
     }
 
@@ -95,6 +95,7 @@ class Vista {
     float zoom_ = 1;
     bool bVistaActualizada_ = false;
     float anchoPanel_ = 0;  // millimetres at the last layout
+    float altoPanel_ = 0;
 };
 
 }  // namespace zel

@@ -63,7 +63,7 @@ TEST_F(Pinturas, FailuresAreToldAfterThePaintInThreeBoxesAtMost) {
         {1, false, {"datos"}},
         {3, false, {"datos", "datos", "datos"}},
         {5, false, {"datos", "datos", "Hay 2 fallos más de dibujo."}},
-        {3, true, {Fallo(6).Description(), "datos", "Hay 1 fallo más de dibujo."}}};
+        {3, true, {"barras de desplazamiento", "datos", "Hay 1 fallo más de dibujo."}}};
     for (const auto& [rotos, lejos, cajas] : filas) {
         std::vector<Elemento> elementos(static_cast<std::size_t>(rotos), SinTraza(ctConduccion1, {}));
         elementos.push_back(Simbolo(ctNudo, {100, 50}));

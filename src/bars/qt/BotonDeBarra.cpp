@@ -41,17 +41,17 @@ class BotonDeBarra::ControlPropio : public ControlDeBoton {
 };
 
 BotonDeBarra::BotonDeBarra(const QString& clave, const QString& descripcion, QWidget* padre)
-    : QToolButton(padre), control_(std::make_shared<ControlPropio>(this)) {
+    : QAbstractButton(padre), control_(std::make_shared<ControlPropio>(this)) {
     setObjectName(clave);
     setToolTip(descripcion);
     setAccessibleName(descripcion);
     setCheckable(true);
-    setAutoRaise(true);
+    setAttribute(Qt::WA_Hover);
 }
 
 void BotonDeBarra::keyPressEvent(QKeyEvent* evento) {
     if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter) {
-        QToolButton::keyPressEvent(evento);
+        QAbstractButton::keyPressEvent(evento);
     } else if (!evento->isAutoRepeat()) {
         click();
     }

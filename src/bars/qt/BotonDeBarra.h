@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QPointer>
-#include <QToolButton>
 #include <memory>
 
 #include "bars/Boton.h"
@@ -10,8 +10,9 @@ namespace zel {
 
 // The widget of a button: its picture, framed and tinted when it is pressed. It has the name of its key.
 // Its control's BorderStyle alone changes its looks, in silence; a click, Space or Enter emits clicked() and
-// leaves the change to who hears it. An assistive program toggles it first: toggled().
-class BotonDeBarra : public QToolButton {
+// leaves the change to who hears it, who may also delete the button. An assistive program toggles it first:
+// toggled().
+class BotonDeBarra : public QAbstractButton {
     Q_OBJECT
   public:
     BotonDeBarra(const QString& clave, const QString& descripcion, QWidget* padre);

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace zel {
 
@@ -38,17 +39,20 @@ void DialogosQt::MsgBox(const std::string& texto, const std::string& titulo) {
     QMessageBox caja(QMessageBox::NoIcon, Titulo(titulo), QString::fromStdString(texto), QMessageBox::Ok,
                      QApplication::activeWindow());
     caja.setTextFormat(Qt::PlainText);
+    caja.button(QMessageBox::Ok)->setText(QStringLiteral("Aceptar"));
     caja.exec();
 }
 
 std::optional<std::string> DialogosQt::InputBox(const std::string& texto, const std::string& titulo,
                                                 const std::string& propuesta) {
-    bool aceptado = false;
-    const QString escrito =
-        QInputDialog::getText(QApplication::activeWindow(), Titulo(titulo), QString::fromStdString(texto),
-                              QLineEdit::Normal, QString::fromStdString(propuesta), &aceptado);
-    if (!aceptado) return std::nullopt;
-    return escrito.toStdString();
+    QInputDialog caja(QApplication::activeWindow());
+    caja.setWindowTitle(Titulo(titulo));
+    caja.setLabelText(QString::fromStdString(texto));
+    caja.setTextValue(QString::fromStdString(propuesta));
+    caja.setOkButtonText(QStringLiteral("Aceptar"));
+    caja.setCancelButtonText(QStringLiteral("Cancelar"));
+    if (caja.exec() != QDialog::Accepted) return std::nullopt;
+    return caja.textValue().toStdString();
 }
 
 std::optional<std::string> DialogosQt::ArchivoAbrir(const std::string& titulo, const std::string& filtro) {

@@ -1,5 +1,7 @@
 #include "platform/qt/SuperficieQt.h"
 
+#include <cmath>
+
 #include "platform/Fallo.h"
 #include "platform/qt/ImagenQt.h"
 
@@ -85,6 +87,11 @@ SuperficieQt::ImagenColocada SuperficieQt::Coloca(const zel::Imagen& imagen, Pun
     const QPointF desde = EnPixeles(esquina);
     // Added up as double: far from the origin a float would lose the picture's size.
     const QSizeF lados(ancho * PixelesPorUnidadX(), alto * PixelesPorUnidadY());
+    // Beyond this Qt's arithmetic of places and parts of a picture is lost.
+    constexpr double LEJISIMOS = 1e12;
+    for (const double medida : {desde.x(), desde.y(), lados.width(), lados.height()}) {
+        if (!(std::abs(medida) < LEJISIMOS)) throw Fallo(6);
+    }
     const bool haciaLaIzquierda = lados.width() < 0;
     const bool haciaArriba = lados.height() < 0;
     return {QRectF(desde, lados).normalized(), haciaLaIzquierda || haciaArriba
