@@ -348,7 +348,7 @@ bool Esquema::eventFilter(QObject* objeto, QEvent* evento) {
 
 void Esquema::resizeEvent(QResizeEvent* evento) {
     QFrame::resizeEvent(evento);
-    partes_->EnEvento([this] { partes_->UserControl_Resize(); });
+    partes_->EnEventoSinCajas([this] { partes_->UserControl_Resize(); });
 }
 
 void Esquema::showEvent(QShowEvent* evento) {

@@ -91,11 +91,11 @@ void Esquema::Partes::Conecta() {
         panel->setCursor(CursorDe(puntero, numero, panel->devicePixelRatioF()));
     });
     QObject::connect(panel, &PanelDibujo::Redimensionado, &esquema,
-                     [this] { EnEvento([this] { UserControl_Resize(); }); });
+                     [this] { EnEventoSinCajas([this] { UserControl_Resize(); }); });
     QObject::connect(panel, &PanelDibujo::GanaFoco, &esquema,
-                     [this] { EnEntrada([this] { herramientas.Panel_GotFocus(); }); });
+                     [this] { EnFoco([this] { herramientas.Panel_GotFocus(); }); });
     QObject::connect(panel, &PanelDibujo::PierdeFoco, &esquema,
-                     [this] { EnEntrada([this] { herramientas.Panel_LostFocus(); }); });
+                     [this] { EnFoco([this] { herramientas.Panel_LostFocus(); }); });
     const auto raton = [&](auto senal, void (EntradaPanel::*atiende)(std::int16_t, float, float)) {
         QObject::connect(panel, senal, &esquema, [this, atiende](qint16 b, float x, float y) {
             EnEntrada([&] { (entrada.*atiende)(b, x, y); });
@@ -233,7 +233,7 @@ void Esquema::Partes::AjustaAlMostrarSiHaceFalta() {
     if (!esquema.window()->focusWidget()) panel->setFocus();
     if (!ajustaAlMostrar) return;
     ajustaAlMostrar = false;
-    EnEvento([this] {
+    EnEventoSinCajas([this] {
         UserControl_Resize();
         vista.DisponeDeNuevo(panel->AnchoMm(), panel->AltoMm());
         vista.AjustarImagen(panel->lienzo(), 1);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QTimer>
+
 #include "bars/qt/StatusBar.h"
 #include "bars/qt/ZelToolBar.h"
 #include "bars/qt/ZelToolBar2.h"
@@ -48,6 +50,15 @@ struct Esquema::Partes : public Anfitrion {
                                        QString::fromStdString(fallo.Description()));
         }
     }
+    // The same for what the platform is in the middle of: boxes come when it is through.
+    template <typename Accion>
+    void EnEventoSinCajas(Accion accion) {
+        const bool yaAplazados = pintado.AplazaAvisos(true);
+        EnEvento(accion);
+        pintado.AplazaAvisos(yaAplazados);
+        if (yaAplazados || !pintado.HayPendientes()) return;
+        QTimer::singleShot(0, &esquema, [this] { EnEvento([this] { pintado.DiPendientes(); }); });
+    }
     // The same for what the user does: dropped while a schematic is being loaded.
     template <typename Accion>
     void EnEntrada(Accion accion) {
@@ -58,6 +69,11 @@ struct Esquema::Partes : public Anfitrion {
     const std::shared_ptr<Elemento>& Seleccionado() noexcept {
         pintado.SueltaAjenos();
         return trabajo.elemSeleccionado;
+    }
+
+    template <typename Accion>
+    void EnFoco(Accion accion) {
+        if (!trabajo.bTerminado && !comandos.Cargando()) EnEventoSinCajas(accion);
     }
 
     void Conecta();

@@ -85,6 +85,10 @@ void Pintado::Panel_Paint() {
 // A box lets events through, so that a paint may come in the middle: what fails in that one is the same
 // again, and is not told.
 void Pintado::Avisa(const std::vector<std::string>& fallos) {
+    if (aplaza_) {
+        pendientes_ = fallos;
+        return;
+    }
     if (avisando_) return;
     const Guardia avisando(avisando_, true);
     const std::size_t cajas = std::min(fallos.size(), CAJAS_POR_PINTADO);

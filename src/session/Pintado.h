@@ -3,6 +3,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "drawing/Pintor.h"
 #include "session/Desplazamiento.h"
@@ -26,6 +29,12 @@ class Pintado {
     void Panel_Paint();
     // The control itself is to be repainted; not in the middle of a drag, whose outlines it would wipe.
     void UserControl_Paint();
+    // While it is set, boxes wait for DiPendientes: a platform in the middle of a resize, a show or a change
+    // of focus stands no box.
+    // Returns what it was.
+    bool AplazaAvisos(bool valor) noexcept { return std::exchange(aplaza_, valor); }
+    bool HayPendientes() const noexcept { return !pendientes_.empty(); }
+    void DiPendientes() { Avisa(std::exchange(pendientes_, {})); }
     // Paints the schematic alone, without marks.
     void PintaSinMarcas();
 
@@ -58,6 +67,8 @@ class Pintado {
     std::int16_t LlamadasARefresco_ = 0;
     bool pintando_ = false;
     bool avisando_ = false;
+    bool aplaza_ = false;
+    std::vector<std::string> pendientes_;
     std::int32_t codSubrayado_ = 0;
 };
 

@@ -51,6 +51,15 @@ TEST_F(HostQueDestruye, WhileABoxIsOpen) {
     dialogos.Espera("ErrDibujarConduccion");
     EXPECT_TRUE(Falla([this] { esquema->Refresh(); }, {"El visor se ha cerrado"}));
     EXPECT_EQ(esquema, nullptr);
+    // In the middle of a resize there is no box: it comes after.
+    esquema = std::make_unique<Esquema>();
+    esquema->show();
+    esquema->GetElementos()->Add(ctToma, "Sin trazado", 3, 1, 0, 0, 1, 2, nullptr, nullptr, "3", 0, 0);
+    esquema->resize(700, 500);
+    EXPECT_NE(esquema, nullptr);
+    dialogos.Espera("ErrDibujarConduccion");
+    QApplication::processEvents();
+    EXPECT_EQ(esquema, nullptr);
 }
 
 TEST(EsquemaSinMostrar, TheFirstShowFitsUnlessTheHostHasChosenAView) {
