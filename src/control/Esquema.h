@@ -145,7 +145,7 @@ class Esquema : public QFrame {
     void BackColor(qint32 valor);
     qint32 ForeColor() const;
     void ForeColor(qint32 valor);
-    // The id of the window that the panel is drawn in.
+    // The panel's window id; the panel gets a native window by it.
     qint32 hdc() const;
     // The schematic, or the subsystem while one is selected, at four times the panel's resolution. Raises
     // when there is no memory for it or an element cannot be drawn.

@@ -65,12 +65,9 @@ void Esquema::ForeColor(qint32 valor) {
     PonPropiedad(". ErrLetForeColor (Esquema)", [&](Lienzo& l) { l.ForeColor(valor); });
 }
 
-// The window that the panel is drawn in: a window of its own would cost more than it gives.
+// The panel gets a native window of its own for it: only who asks pays for that.
 qint32 Esquema::hdc() const {
-    return Llamada(". ErrGethdc (Esquema)", [&] {
-        const WId propia = partes_->panel->effectiveWinId();
-        return static_cast<qint32>(propia != 0 ? propia : window()->winId());
-    });
+    return Llamada(". ErrGethdc (Esquema)", [&] { return static_cast<qint32>(partes_->panel->winId()); });
 }
 
 QImage Esquema::Picture() {

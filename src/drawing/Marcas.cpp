@@ -5,6 +5,7 @@
 
 #include "drawing/Colores.h"
 #include "drawing/Conducciones.h"
+#include "drawing/NumeroDeEstado.h"
 #include "drawing/Resaltado.h"
 #include "drawing/Simbolos.h"
 #include "model/TamanyoUnidad.h"
@@ -14,18 +15,6 @@ namespace zel {
 namespace {
 
 constexpr float MEDIO_LADO = 0.2F;  // of a trace point's mark, in TamanyoUnidad
-
-// The states, by their number, that show something of their own.
-enum : std::int32_t {
-    DIBUJANDO_CONDUCCION = 3,
-    ESCOGIENDO_PUNTO = 8,
-    MOVIENDO_PUNTO_INSTANTANEO = 9,
-    SUBSISTEMA = 12,
-    ARRASTRANDO_ELEMENTO = 13,
-    MOVIENDO_PUNTO = 14,
-    UNO_A_UNO = 15,
-    ARRASTRANDO_ETIQUETA = 16,
-};
 
 void MarcaPunto(Superficie& panel, const Punto& p) {
     const float m = MEDIO_LADO * TamanyoUnidad();
@@ -85,12 +74,12 @@ void PintaLazo(Superficie& panel, const Puntos& curva) {
 void PintaResaltado(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& marcas,
                     const PasoDePintado& paso) {
     switch (ajustes.iEstado) {
-        case DIBUJANDO_CONDUCCION:
-        case ARRASTRANDO_ELEMENTO:
-        case MOVIENDO_PUNTO:
-        case ARRASTRANDO_ETIQUETA:
+        case E_DIBUJANDO_CONDUCCION:
+        case E_ARRASTRAR_ELEMENTO:
+        case E_ARRASTRAR_PUNTO:
+        case E_ARRASTRAR_ETIQUETA:
             return;
-        case UNO_A_UNO:
+        case E_UNO_A_UNO:
             if (!marcas.elemSubsistema) return;
             for (const auto& e : *marcas.elemSubsistema)
                 paso([&] { SombreaElemento(panel, ajustes, e.get()); });
@@ -105,17 +94,17 @@ void PintaMarcas(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& 
     panel.FillStyle(Superficie::RELLENO_NINGUNO);
     panel.DrawMode(Superficie::MODO_NEGRO);
     switch (ajustes.iEstado) {
-        case DIBUJANDO_CONDUCCION:
+        case E_DIBUJANDO_CONDUCCION:
             PintaTrazadoNuevo(panel, ajustes, marcas, paso);
             return;
-        case ESCOGIENDO_PUNTO:
+        case E_ESCOGER_PUNTO:
             paso([&] { PintaPuntosQueEscoger(panel, marcas.elemSeleccionado); });
             return;
-        case MOVIENDO_PUNTO_INSTANTANEO:
+        case E_MOVER_PUNTO:
             if (!marcas.puntoReferencia) return;
             paso([&] { Invirtiendo(panel, [&] { MarcaPunto(panel, *marcas.puntoReferencia); }); });
             return;
-        case SUBSISTEMA:
+        case E_SUBSISTEMA:
             if (!marcas.curvaSeleccion) return;
             paso([&] { PintaLazo(panel, *marcas.curvaSeleccion); });
             return;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "drawing/NumeroDeEstado.h"
 #include "drawing/Resaltado.h"
 #include "model/modErrorHandling.h"
 #include "platform/Dialogos.h"
@@ -12,13 +13,12 @@ namespace zel {
 
 namespace {
 
-constexpr std::int32_t DIBUJANDO_CONDUCCION = 3;
-constexpr std::int32_t SUBSISTEMA = 12;
 constexpr std::size_t CAJAS_POR_PINTADO = 3;
 
 // Their outlines are on the panel alone: a repaint would wipe them.
 bool TieneContornos(std::int32_t iEstado) noexcept {
-    return iEstado == 11 || iEstado == 13 || iEstado == 14 || (iEstado >= 16 && iEstado <= 19);
+    return iEstado == E_LAZO || iEstado == E_ARRASTRAR_ELEMENTO || iEstado == E_ARRASTRAR_PUNTO ||
+           (iEstado >= E_ARRASTRAR_ETIQUETA && iEstado <= E_MANO);
 }
 
 }  // namespace
@@ -34,7 +34,7 @@ Pintado::Pintado(Superficie& panel, Documento& documento, Trabajo& trabajo, Refr
       fondo_(std::move(fondo)) {}
 
 const Elementos& Pintado::ConjuntoPintado() const noexcept {
-    const bool parte = trabajo_.iEstado == SUBSISTEMA && trabajo_.elemSubsistema;
+    const bool parte = trabajo_.iEstado == E_SUBSISTEMA && trabajo_.elemSubsistema;
     return parte ? *trabajo_.elemSubsistema : *documento_.colElementos;
 }
 
@@ -72,7 +72,7 @@ void Pintado::Panel_Paint() {
         if (LlamadasARefresco_ == 0 && refresco_.bPintado()) {
             const Guardia llamadas(LlamadasARefresco_, 1);
             codSubrayado_ = 0;
-            if (trabajo_.iEstado == DIBUJANDO_CONDUCCION) trabajo_.trazadoTemporal.reset();
+            if (trabajo_.iEstado == E_DIBUJANDO_CONDUCCION) trabajo_.trazadoTemporal.reset();
             const Marcas marcas = MarcasDelTrabajo();
             auto deDibujo = PintaEsquema(panel_, AjustesDe(trabajo_, documento_, vista_), ConjuntoPintado(),
                                          *documento_.colElementos, FondoDelMomento(), &marcas);

@@ -113,6 +113,8 @@ TEST_F(EsquemaEnUso, WhatTheHostRemovesIsSelectedNoMoreAndWhatItSaysIsShown) {
     EXPECT_FALSE(SeVe(0, 4));
     esquema.Refresh();
     EXPECT_TRUE(SeVe(0, 4));
+    EXPECT_EQ(esquema.hdc(), static_cast<qint32>(Panel()->winId()));
+    EXPECT_TRUE(SeVe(0, 4));
     esquema.AnulaAgregarElementos();
     Pulsa("nudo");
     EXPECT_EQ(Estado(1), "Preparado");
