@@ -25,7 +25,18 @@ class SinBarra : public zel::Anfitrion {
     void PulsaBoton(zel::Barra, std::string_view) override {}
     bool BotonPulsado(zel::Barra, std::string_view) const override { return false; }
     void BarraElementosActiva(bool) override {}
+    void MouseDown(std::int16_t&, std::int16_t&, float&, float&) override {}
+    void Click() override {}
+    void DblClick() override {}
+    void ElementoSeleccionado(std::int32_t) override {}
+    void CreacionNuevoElemento(const std::string&, std::int32_t, std::int32_t) override {}
+    void ElementoMovido(const std::shared_ptr<zel::Elemento>&) override {}
+    void ElementoModificado(const std::shared_ptr<zel::Elemento>&) override {}
+    void EditarElemento(std::int32_t) override {}
+    void AdjuntarArchivo(std::int32_t) override {}
+    void AdjuntarVer(std::int32_t) override {}
     void PeticionBorrado(std::int32_t) override {}
+    void LanzaMenu() override {}
 };
 
 // A viewer of a schematic and the places where the mouse goes, all of them over the elements.

@@ -157,12 +157,6 @@ void Esquema::Partes::BarraElementosActiva(bool activa) {
     toolBar1->Enabled(activa);
 }
 
-void Esquema::Partes::PeticionBorrado(std::int32_t gfCodSIG) {
-    qint32 codigo = gfCodSIG;
-    emit esquema.PeticionBorrado(codigo);
-    trabajo.ExigeVisor();
-}
-
 // --- Layout -----------------------------------------------------------------------------------------------
 
 float Esquema::Partes::Mm(int pixeles) const {

@@ -13,6 +13,7 @@
 #include "control/UnidadesDeEscala.h"
 #include "editing/EntradaPanel.h"
 #include "editing/Herramientas.h"
+#include "model/Conexiones.h"
 #include "model/modErrorHandling.h"
 #include "platform/DialogoComun.h"
 #include "platform/Dialogos.h"
@@ -32,7 +33,18 @@ struct Esquema::Partes : public Anfitrion {
     void PulsaBoton(Barra barra, std::string_view clave) override;
     bool BotonPulsado(Barra barra, std::string_view clave) const override;
     void BarraElementosActiva(bool activa) override;
+    void MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override;
+    void Click() override;
+    void DblClick() override;
+    void ElementoSeleccionado(std::int32_t gfCodSIG) override;
+    void CreacionNuevoElemento(const std::string& Tipo, std::int32_t ElemIni, std::int32_t ElemFin) override;
+    void ElementoMovido(const std::shared_ptr<Elemento>& elem) override;
+    void ElementoModificado(const std::shared_ptr<Elemento>& elem) override;
+    void EditarElemento(std::int32_t gfCodSIG) override;
+    void AdjuntarArchivo(std::int32_t gfCodSIG) override;
+    void AdjuntarVer(std::int32_t gfCodSIG) override;
     void PeticionBorrado(std::int32_t gfCodSIG) override;
+    void LanzaMenu() override;
 
     // The one boundary between the control's failures and the platform's events.
     template <typename Accion>
@@ -76,6 +88,9 @@ struct Esquema::Partes : public Anfitrion {
         if (!trabajo.bTerminado && !comandos.Cargando()) EnEventoSinCajas(accion);
     }
 
+    template <typename Emite>
+    void Emitido(Emite emite);
+
     void Conecta();
     void ConectaBarras();
     void CreaAcciones();
@@ -107,6 +122,7 @@ struct Esquema::Partes : public Anfitrion {
 
     Documento documento;
     Trabajo trabajo;
+    Conexiones conexiones;
     DialogoComun commonDialog1;
     Refresco refresco;
     Avisos avisos;

@@ -69,7 +69,63 @@ void PintaLazo(Superficie& panel, const Puntos& curva) {
     if (puntos.size() > 1) panel.Line(puntos);
 }
 
+PuntoXY Vertice(const Puntos& puntos, std::int32_t i) {
+    const auto p = puntos.Item(i);
+    return {p->XPos(), p->YPos()};
+}
+
+void AlternaTramos(Superficie& panel, const Marcas& m) {
+    for (const TramoMovido& movido : m.colConduccionesMovidas)
+        panel.Line(Vertice(*movido.tramo, 1), Vertice(*movido.tramo, 2));
+}
+
+// The corner of the label's box and its size are the outline's first two points.
+void AlternaCajaDeEtiqueta(Superficie& panel, const Puntos& contorno) {
+    const PuntoXY a = Vertice(contorno, 1);
+    const PuntoXY tamanyo = Vertice(contorno, 2);
+    panel.Caja(a, {a.X + tamanyo.X, a.Y + tamanyo.Y});
+}
+
 }  // namespace
+
+void AlternaContorno(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& m) {
+    const auto tiene = [&](std::int32_t puntos) {
+        return m.trazadoTemporal && m.trazadoTemporal->Count() == puntos;
+    };
+    PreparaNegro(panel);
+    panel.DrawWidth(1);
+    panel.DrawStyle(Superficie::ESTILO_SOLIDO);
+    panel.FillStyle(Superficie::RELLENO_NINGUNO);
+    panel.DrawMode(Superficie::MODO_INVERTIR);
+    switch (ajustes.iEstado) {
+        case E_DIBUJANDO_CONDUCCION:
+            if (tiene(2)) panel.Line(Vertice(*m.trazadoTemporal, 1), Vertice(*m.trazadoTemporal, 2));
+            break;
+        case E_ARRASTRAR_ELEMENTO:
+            AlternaTramos(panel, m);
+            if (!m.elemSeleccionado || !m.puntoReferencia) break;
+            DibujarElemento(panel, ajustes, m.elemSeleccionado, true, m.puntoReferencia->XPos(),
+                            m.puntoReferencia->YPos());
+            break;
+        case E_ARRASTRAR_PUNTO:
+            AlternaTramos(panel, m);
+            if (m.puntoReferencia) Invirtiendo(panel, [&] { MarcaPunto(panel, *m.puntoReferencia); });
+            break;
+        case E_ARRASTRAR_ETIQUETA:
+            if (tiene(3)) AlternaCajaDeEtiqueta(panel, *m.trazadoTemporal);
+            break;
+        case E_RECUADRO:
+        case E_RECUADRO_ZOOM:
+            if (tiene(2)) panel.Caja(Vertice(*m.trazadoTemporal, 1), Vertice(*m.trazadoTemporal, 2));
+            break;
+        case E_MANO:
+            if (tiene(3)) panel.Line(Vertice(*m.trazadoTemporal, 1), Vertice(*m.trazadoTemporal, 3));
+            break;
+        default:
+            break;
+    }
+    PreparaNegro(panel);
+}
 
 void PintaResaltado(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& marcas,
                     const PasoDePintado& paso) {
@@ -104,12 +160,13 @@ void PintaMarcas(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& 
             if (!marcas.puntoReferencia) return;
             paso([&] { Invirtiendo(panel, [&] { MarcaPunto(panel, *marcas.puntoReferencia); }); });
             return;
+        case E_LAZO:
         case E_SUBSISTEMA:
             if (!marcas.curvaSeleccion) return;
             paso([&] { PintaLazo(panel, *marcas.curvaSeleccion); });
             return;
         default:
-            return;
+            paso([&] { AlternaContorno(panel, ajustes, marcas); });
     }
 }
 

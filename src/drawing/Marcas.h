@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 
 #include "drawing/AjustesDibujo.h"
+#include "drawing/TramoMovido.h"
 #include "model/Elementos.h"
 
 namespace zel {
@@ -16,6 +18,8 @@ struct Marcas {
     const Puntos* trazadoNuevo2 = nullptr;
     const Punto* puntoReferencia = nullptr;
     const Puntos* curvaSeleccion = nullptr;
+    const Puntos* trazadoTemporal = nullptr;
+    std::span<const TramoMovido> colConduccionesMovidas;
     std::int32_t numeroDeCentral = 1;  // of the plant being drawn
 };
 
@@ -25,8 +29,13 @@ using PasoDePintado = std::function<void(const std::function<void()>&)>;
 // The highlight of the selected element, or of those being chosen one by one, as the state asks for.
 void PintaResaltado(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& marcas,
                     const PasoDePintado& paso);
-// What the state has of its own: the trace being drawn, the trace points to pick, the lasso.
+// What the state has of its own: the trace being drawn, the trace points to pick, the lasso, the outline of a
+// drag.
 void PintaMarcas(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& marcas,
                  const PasoDePintado& paso);
+
+// The outline of what the state drags: the segment that a click would add to a trace, an element and the
+// pieces that follow it, a trace point, a label's box, a band. Inverts: drawing it again erases it.
+void AlternaContorno(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& marcas);
 
 }  // namespace zel

@@ -46,6 +46,8 @@ Marcas Pintado::MarcasDelTrabajo() const {
     marcas.trazadoNuevo2 = trabajo_.trazadoNuevo2.get();
     marcas.puntoReferencia = trabajo_.puntoReferencia.get();
     marcas.curvaSeleccion = trabajo_.curvaSeleccion.get();
+    marcas.trazadoTemporal = trabajo_.trazadoTemporal.get();
+    marcas.colConduccionesMovidas = trabajo_.colConduccionesMovidas;
     marcas.numeroDeCentral = documento_.UltimoKeyPant[ctCentralHidroelectrica] + 1;
     return marcas;
 }
@@ -145,6 +147,10 @@ void Pintado::SubrayaElem(std::int32_t codigo) try {
         codSubrayado_ = 0;
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrSubrayaElem (Esquema)");
+}
+
+void Pintado::AlternaContorno() {
+    zel::AlternaContorno(panel_, AjustesDe(trabajo_, documento_, vista_), MarcasDelTrabajo());
 }
 
 void Pintado::AlternaSubrayado(std::int32_t codigo) {

@@ -48,6 +48,8 @@ class Pintado {
     // Moves the underline of the element below the mouse; 0 for none.
     void SubrayaElem(std::int32_t codigo);
     void AlternaSubrayado(std::int32_t codigo);
+    // Draws the outline of the drag under way, or erases it.
+    void AlternaContorno();
 
     // A selection that is no element of the schematic any more is dropped.
     void SueltaAjenos() noexcept;

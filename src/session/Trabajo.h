@@ -2,9 +2,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
+#include "drawing/TramoMovido.h"
 #include "model/Elementos.h"
+#include "platform/Superficie.h"
 
 namespace zel {
 
@@ -21,7 +24,14 @@ struct Trabajo {
     std::shared_ptr<Puntos> curvaSeleccion;      // the lasso
     std::shared_ptr<Elementos> elemSubsistema;   // copies of the elements chosen together
     std::shared_ptr<Puntos> trazadoTemporal;     // a temporary outline
-    std::vector<std::shared_ptr<Puntos>> colConduccionesMovidas;  // trace pieces that follow a drag
+    std::vector<TramoMovido> colConduccionesMovidas;
+
+    // Of the press of a mouse button.
+    bool bBotonPulsadoSobreElemento = false;  // the left one, in state 5; until it is released
+    bool bElementoYaSeleccionado = false;     // an element was selected when a button was last released
+    bool bPrensaArrastra = false;             // the press may still begin a drag; it begins one at most
+    std::string sTextoSeleccion;              // of the selected element
+    PuntoXY ultimoRaton{};                    // where the mouse was last
 
     // What the last search of the element under a point has found; see Localizador.
     std::int16_t iParteEncontrada = 0;

@@ -154,7 +154,7 @@ TEST_F(Herramienta, ViewToolsActOnceOrTellWhatIsMissing) {
         EXPECT_EQ(trabajo.iEstado, 19);
         EXPECT_FALSE(refresco.bRefrescoPendiente());
     }
-    EXPECT_EQ(anfitrion.borrados, std::vector<std::int32_t>{2});
+    EXPECT_EQ(anfitrion.Eventos(), "Borrar 2");
 }
 
 TEST_F(Herramienta, TheTwoZoomsHaveTheirCursors) {

@@ -31,7 +31,7 @@ class MesaDeEdicion : public Mesa {
         trabajo.puntoReferencia = std::make_shared<Punto>(3.0F, 4.0F);
         trabajo.elemSubsistema = std::make_shared<Elementos>();
         trabajo.elemSubsistema->AddObjetoElemento(*Elem(enSubsistema));
-        trabajo.colConduccionesMovidas = {Traza({})};
+        trabajo.colConduccionesMovidas = {{Traza({}), nullptr}};
     }
     // "1 2 4"
     std::string Codigos() const {
