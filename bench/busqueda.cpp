@@ -24,6 +24,7 @@ class SinBarra : public zel::Anfitrion {
     void SueltaBotones(zel::Barra) override {}
     void PulsaBoton(zel::Barra, std::string_view) override {}
     bool BotonPulsado(zel::Barra, std::string_view) const override { return false; }
+    void HazClic(zel::Barra, std::string_view) override {}
     void BarraElementosActiva(bool) override {}
     void MouseDown(std::int16_t&, std::int16_t&, float&, float&) override {}
     void Click() override {}

@@ -337,10 +337,9 @@ void Esquema::textoStatBar(const QString& texto) {
 bool Esquema::eventFilter(QObject* objeto, QEvent* evento) {
     if (!partes_ || partes_->trabajo.bTerminado) return false;
     if (partes_->comandos.Cargando() && EsEntrada(*evento)) return true;
-    const bool tecla = evento->type() == QEvent::KeyPress || evento->type() == QEvent::KeyRelease;
-    if (tecla && partes_->AtiendeTeclasDe(objeto)) {
+    if (partes_->AtiendeTeclasDe(objeto)) {
         const QPointer<Esquema> vivo(this);
-        partes_->AtiendeTecla(*evento);
+        partes_->AtiendeTeclado(*evento);
         if (!vivo) return true;
     }
     return QFrame::eventFilter(objeto, evento);

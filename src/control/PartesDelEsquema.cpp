@@ -3,11 +3,9 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <cmath>
 
 #include "control/CursoresQt.h"
-#include "control/Teclas.h"
 #include "platform/Guardia.h"
 
 namespace zel {
@@ -46,6 +44,9 @@ Esquema::Partes::Partes(Esquema& dueno)
       estados(panel->lienzo(), documento, trabajo, refresco, vista, *this),
       gestos(panel->lienzo(), trabajo, refresco, vista, avisos, estados, [this] { UserControl_Resize(); }),
       herramientas(panel->lienzo(), trabajo, refresco, vista, avisos, estados, gestos, *this),
+      creacion(panel->lienzo(), documento, trabajo, refresco, vista, avisos, pintado, localizador, estados,
+               *this),
+      teclado(panel->lienzo(), documento, trabajo, refresco, vista, desplazamiento, creacion, estados, *this),
       entrada(panel->lienzo(), trabajo, refresco, vista, avisos, estados, gestos, localizador, *this),
       imagen(&dueno, documento, trabajo, refresco, estados, *this, commonDialog1,
              [this] { pintado.PintaSinMarcas(); }),
@@ -96,6 +97,7 @@ void Esquema::Partes::Conecta() {
                      [this] { EnFoco([this] { herramientas.Panel_GotFocus(); }); });
     QObject::connect(panel, &PanelDibujo::PierdeFoco, &esquema,
                      [this] { EnFoco([this] { herramientas.Panel_LostFocus(); }); });
+    QObject::connect(panel, &PanelDibujo::Pulsado, &esquema, [this] { teclado.PanelPulsado(); });
     const auto raton = [&](auto senal, void (EntradaPanel::*atiende)(std::int16_t, float, float)) {
         QObject::connect(panel, senal, &esquema, [this, atiende](qint16 b, float x, float y) {
             EnEntrada([&] { (entrada.*atiende)(b, x, y); });
@@ -231,30 +233,6 @@ void Esquema::Partes::AjustaAlMostrarSiHaceFalta() {
         UserControl_Resize();
         vista.DisponeDeNuevo(panel->AnchoMm(), panel->AltoMm());
         vista.AjustarImagen(panel->lienzo(), 1);
-    });
-}
-
-// Once for each key: from a button it goes on to its bar.
-bool Esquema::Partes::AtiendeTeclasDe(const QObject* objeto) const {
-    const bool esBoton = objeto->parent() == toolBar1 || objeto->parent() == toolBar2;
-    return objeto == panel || esBoton;
-}
-
-// A key on its way to the panel or to a button: the host sees it first.
-void Esquema::Partes::AtiendeTecla(const QEvent& evento) {
-    const auto& tecla = static_cast<const QKeyEvent&>(evento);
-    qint16 codigo = CodigoDeTecla(tecla);
-    qint16 mayus = MascaraDeTeclas(tecla);
-    EnEntrada([&] {
-        if (evento.type() == QEvent::KeyRelease) {
-            if (tecla.isAutoRepeat()) return;
-            esquema.Llamada(". ErrUserControl_KeyUp (Esquema)", [&] { emit esquema.KeyUp(codigo, mayus); });
-            return;
-        }
-        emit esquema.KeyDown(codigo, mayus);
-        trabajo.ExigeVisor();
-        qint16 ascii = CaracterDeTecla(tecla);
-        if (ascii != 0) emit esquema.KeyPress(ascii);
     });
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QKeyEvent>
+#include <QSet>
 #include <QTimer>
 
 #include "bars/qt/StatusBar.h"
@@ -13,6 +15,7 @@
 #include "control/UnidadesDeEscala.h"
 #include "editing/EntradaPanel.h"
 #include "editing/Herramientas.h"
+#include "editing/Teclado.h"
 #include "model/Conexiones.h"
 #include "model/modErrorHandling.h"
 #include "platform/DialogoComun.h"
@@ -32,6 +35,7 @@ struct Esquema::Partes : public Anfitrion {
     void SueltaBotones(Barra barra) override;
     void PulsaBoton(Barra barra, std::string_view clave) override;
     bool BotonPulsado(Barra barra, std::string_view clave) const override;
+    void HazClic(Barra barra, std::string_view clave) override;
     void BarraElementosActiva(bool activa) override;
     void MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override;
     void Click() override;
@@ -88,8 +92,13 @@ struct Esquema::Partes : public Anfitrion {
         if (!trabajo.bTerminado && !comandos.Cargando()) EnEventoSinCajas(accion);
     }
 
+    // Raises when the host has destroyed the control meanwhile.
     template <typename Emite>
-    void Emitido(Emite emite);
+    void Emitido(Emite emite) {
+        emite();
+        trabajo.ExigeVisor();
+        pintado.SueltaAjenos();
+    }
 
     void Conecta();
     void ConectaBarras();
@@ -102,8 +111,11 @@ struct Esquema::Partes : public Anfitrion {
     // A view call before any layout: it runs now.
     void ExigeDisposicion();
     void AjustaAlMostrarSiHaceFalta();
+    // What is typed at the panel or a button, and what tells that typing is over; see TeclasDelEsquema.cpp.
     bool AtiendeTeclasDe(const QObject* objeto) const;
-    void AtiendeTecla(const QEvent& evento);
+    void AtiendeTeclado(const QEvent& evento);
+    void TeclaPulsada(const QKeyEvent& tecla);
+    void TeclaSoltada(const QKeyEvent& tecla);
 
     float Mm(int pixeles) const;
     int PixelesDeMm(float mm) const;
@@ -133,6 +145,8 @@ struct Esquema::Partes : public Anfitrion {
     MaquinaEstados estados;
     GestosDeVista gestos;
     Herramientas herramientas;
+    Creacion creacion;
+    Teclado teclado;
     EntradaPanel entrada;
     ImagenFondo imagen;
     Comandos comandos;
@@ -142,6 +156,7 @@ struct Esquema::Partes : public Anfitrion {
     bool disponiendo = false;
     bool seHaMostrado = false;
     bool ajustaAlMostrar = false;
+    QSet<quint64> teclasVistas;  // held, and pressed here
 };
 
 template <typename Accion>

@@ -1,16 +1,10 @@
 // The events that the editor raises, given to the host as signals.
 
+#include <QAbstractButton>
+
 #include "control/PartesDelEsquema.h"
 
 namespace zel {
-
-// Raises when the host has destroyed the control meanwhile.
-template <typename Emite>
-void Esquema::Partes::Emitido(Emite emite) {
-    emite();
-    trabajo.ExigeVisor();
-    pintado.SueltaAjenos();
-}
 
 void Esquema::Partes::MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) {
     Emitido([&] { emit esquema.MouseDown(Button, Shift, X, Y); });
@@ -60,6 +54,13 @@ void Esquema::Partes::AdjuntarVer(std::int32_t gfCodSIG) {
 
 void Esquema::Partes::PeticionBorrado(std::int32_t gfCodSIG) {
     Emitido([&] { emit esquema.PeticionBorrado(gfCodSIG); });
+}
+
+void Esquema::Partes::HazClic(Barra barra, std::string_view clave) {
+    const QWidget* bar = barra == Barra::Elementos ? static_cast<QWidget*>(toolBar1) : toolBar2;
+    const auto nombre = QString::fromUtf8(clave.data(), static_cast<qsizetype>(clave.size()));
+    auto* boton = bar->findChild<QAbstractButton*>(nombre);
+    if (boton) Emitido([&] { boton->click(); });
 }
 
 void Esquema::Partes::LanzaMenu() {}

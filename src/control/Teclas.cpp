@@ -19,6 +19,12 @@ constexpr std::pair<int, qint16> TECLADO_NUMERICO[] = {
     {Qt::Key_Asterisk, 106}, {Qt::Key_Plus, 107},  {Qt::Key_Minus, 109},
     {Qt::Key_Period, 110},   {Qt::Key_Comma, 110}, {Qt::Key_Slash, 111},
 };
+// Shift turns the digits of the keypad into what else is on their keys.
+constexpr std::pair<int, qint16> CIFRAS_CON_MAYUS[] = {
+    {Qt::Key_Insert, 96}, {Qt::Key_End, 97},     {Qt::Key_Down, 98},   {Qt::Key_PageDown, 99},
+    {Qt::Key_Left, 100},  {Qt::Key_Clear, 101},  {Qt::Key_Right, 102}, {Qt::Key_Home, 103},
+    {Qt::Key_Up, 104},    {Qt::Key_PageUp, 105},
+};
 // Shift and a digit of the main row arrive as the sign above it.
 constexpr qint16 CIFRA_CERO = 48;
 
@@ -44,6 +50,8 @@ qint16 CodigoDeTecla(const QKeyEvent& tecla) {
     if (numerico) {
         if (k >= Qt::Key_0 && k <= Qt::Key_9) return static_cast<qint16>(96 + k - Qt::Key_0);
         if (const qint16 codigo = Busca(TECLADO_NUMERICO, k)) return codigo;
+        const bool conMayus = tecla.modifiers() & Qt::ShiftModifier;
+        if (const qint16 codigo = conMayus ? Busca(CIFRAS_CON_MAYUS, k) : qint16{0}) return codigo;
     }
     if ((k >= Qt::Key_A && k <= Qt::Key_Z) || (k >= Qt::Key_0 && k <= Qt::Key_9)) {
         return static_cast<qint16>(k);

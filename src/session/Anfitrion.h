@@ -27,6 +27,9 @@ class Anfitrion {
     virtual void SueltaBotones(Barra barra) = 0;
     virtual void PulsaBoton(Barra barra, std::string_view clave) = 0;
     virtual bool BotonPulsado(Barra barra, std::string_view clave) const = 0;
+    // A click on a button; a disabled one ignores it, or one of a disabled bar. What may happen meanwhile is
+    // what may in the events below.
+    virtual void HazClic(Barra barra, std::string_view clave) = 0;
     // Whether elements can be created.
     virtual void BarraElementosActiva(bool activa) = 0;
 

@@ -143,6 +143,18 @@ void Desplazamiento::Scroll(Eje& eje) {
     trabajo_.trazadoTemporal.reset();
 }
 
+bool Desplazamiento::MedioPaso(const Eje& eje, bool haciaMax) {
+    if (noCabe_) return false;
+    BarraDesplazamiento::Estado estado = eje.barra.Actual();
+    const int paso = std::max(estado.LargeChange / 2, 1);
+    const int destino = haciaMax ? estado.Max : estado.Min;
+    const int falta = destino - estado.Value;
+    if (falta == 0) return false;
+    estado.Value = static_cast<std::int16_t>(estado.Value + std::clamp(falta, -paso, paso));
+    eje.barra.Pon(estado);
+    return true;
+}
+
 void Desplazamiento::HScroll_Change() try { Change(horizontal_); } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrHScroll_Change (Esquema)");
 }

@@ -29,6 +29,15 @@ class Desplazamiento {
     void VScroll_Change();
     void VScroll_Scroll();
 
+    // Moves a bar by half its page step, at least by 1 and at most to its end, and the view with it. Bars
+    // that cannot represent the view stay.
+    void HScroll_MedioPaso(bool haciaMax) {
+        if (MedioPaso(horizontal_, haciaMax)) HScroll_Change();
+    }
+    void VScroll_MedioPaso(bool haciaMax) {
+        if (MedioPaso(vertical_, haciaMax)) VScroll_Change();
+    }
+
     // Another schematic: what was told of the last one counts no more.
     void NuevoDocumento() noexcept { noCabe_ = false; }
 
@@ -43,6 +52,7 @@ class Desplazamiento {
     };
 
     void PonBarras(bool limitado);
+    bool MedioPaso(const Eje& eje, bool haciaMax);
     void Mueve(const Eje& eje);
     void Change(Eje& eje);
     void Scroll(Eje& eje);

@@ -20,6 +20,7 @@ class AnfitrionAnotador : public Anfitrion {
         const auto lugar = pulsados.find(barra);
         return lugar != pulsados.end() && lugar->second.contains(std::string(clave));
     }
+    void HazClic(Barra, std::string_view clave) override { Anota("Clic " + std::string(clave)); }
     void BarraElementosActiva(bool activa) override { barraActiva = activa; }
     void MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override {
         Anota("MouseDown " + std::to_string(Button) + " " + std::to_string(Shift));

@@ -1,0 +1,79 @@
+// The keys on their way to the panel or to a button: the host sees them first, then the editor.
+
+#include "control/PartesDelEsquema.h"
+#include "control/Teclas.h"
+
+namespace zel {
+
+namespace {
+
+// The same when it is pressed and when it is released, whatever it types by then.
+quint64 Identidad(const QKeyEvent& tecla) {
+    constexpr quint64 SIN_POSICION = quint64{1} << 32;
+    const quint32 posicion = tecla.nativeScanCode();
+    return posicion != 0 ? posicion : SIN_POSICION + static_cast<quint64>(CodigoDeTecla(tecla));
+}
+
+}  // namespace
+
+// Once for each key: from a button it goes on to its bar.
+bool Esquema::Partes::AtiendeTeclasDe(const QObject* objeto) const {
+    const bool esBoton = objeto->parent() == toolBar1 || objeto->parent() == toolBar2;
+    return objeto == panel || esBoton;
+}
+
+void Esquema::Partes::AtiendeTeclado(const QEvent& evento) {
+    switch (evento.type()) {
+        case QEvent::ShortcutOverride:
+        case QEvent::KeyPress:
+            TeclaPulsada(static_cast<const QKeyEvent&>(evento));
+            break;
+        case QEvent::KeyRelease:
+            TeclaSoltada(static_cast<const QKeyEvent&>(evento));
+            break;
+        case QEvent::Wheel:
+            EnEntrada([this] { teclado.OtraEntrada(); });
+            break;
+        case QEvent::FocusOut:
+            teclasVistas.clear();
+            break;
+        default:
+            break;
+    }
+}
+
+// A shortcut's override comes first, for every key; the press itself only when no shortcut has taken it.
+void Esquema::Partes::TeclaPulsada(const QKeyEvent& tecla) {
+    EnEntrada([&] {
+        if (tecla.key() != Qt::Key_Control) teclado.OtraEntrada();
+        if (tecla.type() == QEvent::ShortcutOverride) {
+            if (!tecla.isAutoRepeat()) teclasVistas.remove(Identidad(tecla));
+            return;
+        }
+        if (!tecla.isAutoRepeat()) teclasVistas.insert(Identidad(tecla));
+        qint16 codigo = CodigoDeTecla(tecla);
+        qint16 mayus = MascaraDeTeclas(tecla);
+        Emitido([&] { emit esquema.KeyDown(codigo, mayus); });
+        // Ctrl, held, repeats itself when the wheel has ended what it had begun.
+        if (!tecla.isAutoRepeat()) teclado.Panel_KeyDown(codigo, mayus);
+        qint16 ascii = CaracterDeTecla(tecla);
+        if (ascii != 0) emit esquema.KeyPress(ascii);
+    });
+}
+
+// What was pressed elsewhere (in a box that Escape has closed, say) or has been a shortcut is no key of the
+// editor when it is released. Ctrl is: the end of what only its press here begins.
+void Esquema::Partes::TeclaSoltada(const QKeyEvent& tecla) {
+    if (tecla.isAutoRepeat()) return;
+    EnEntrada([&] {
+        const bool esDelEditor = teclasVistas.remove(Identidad(tecla)) || tecla.key() == Qt::Key_Control;
+        qint16 codigo = CodigoDeTecla(tecla);
+        qint16 mayus = MascaraDeTeclas(tecla);
+        esquema.Llamada(". ErrUserControl_KeyUp (Esquema)", [&] {
+            Emitido([&] { emit esquema.KeyUp(codigo, mayus); });
+            if (esDelEditor) teclado.Panel_KeyUp(codigo, mayus);
+        });
+    });
+}
+
+}  // namespace zel
