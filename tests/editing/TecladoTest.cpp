@@ -84,11 +84,11 @@ TEST_F(Teclas, EscapeDropsTheSelectionAndRepaintsWhateverTheState) {
 
 TEST_F(Teclas, TheViewIsZoomedFittedAndMoved) {
     const std::tuple<std::int32_t, int, std::int16_t, const char*> filas[] = {
-        {5, 107, 0, "129.29,85.36 141.42x-70.71"},
-        {5, 109, 0, "58.58,120.71 282.84x-141.42"},
+        {5, 107, 0, "129,85 141.42x-70.71"},
+        {5, 109, 0, "58,120 282.84x-141.42"},
         {11, 107, 0, "100,100 200x-100"},
         {11, 'Z', 0, "100,100 200x-100"},
-        {3, 'Z', 0, "44,77 112x-56"},
+        {3, 'Z', 0, "44,78 112x-56"},
         {5, 37, 0, "50,100 200x-100"},
         {5, 39, 0, "150,100 200x-100"},
         {5, 38, 0, "100,125 200x-100"},
@@ -118,6 +118,7 @@ TEST_F(Teclas, TheViewIsZoomedFittedAndMoved) {
     Suelta(37);
     EXPECT_EQ(Visible(), "9,50 1.5x-1") << "at least one unit";
     Muestra(40000, 50, 200, 100);
+    guion.Espera("más allá de donde llegan las barras");
     Repinta();
     Suelta(37);
     EXPECT_EQ(Visible(), "40000,50 200x-100") << "beyond the bars";
