@@ -4,6 +4,8 @@
 #include <iterator>
 #include <limits>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "model/modErrorHandling.h"
 #include "platform/Dialogos.h"
