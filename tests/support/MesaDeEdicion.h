@@ -1,12 +1,13 @@
 #pragma once
 
+#include "editing/Creacion.h"
 #include "editing/EntradaPanel.h"
 #include "editing/Herramientas.h"
 #include "support/Mesa.h"
 
 namespace zel::pruebas {
 
-// The same with what edits: state machine, tools and mouse.
+// The same with what edits: state machine, tools, creation and mouse.
 class MesaDeEdicion : public Mesa {
   protected:
     // What there is in hand, a letter each: the trace being drawn (N: empty) and its second part, the
@@ -61,6 +62,8 @@ class MesaDeEdicion : public Mesa {
         panel, trabajo, refresco, vista, avisos, estados, [this] { vista.Dispone(200, 100); }};
     Herramientas herramientas{panel, trabajo, refresco, vista, avisos, estados, gestos, anfitrion};
     Localizador localizador{panel, documento, trabajo, vista, {}};
+    Creacion creacion{panel,  documento, trabajo,     refresco, vista,
+                      avisos, pintado,   localizador, estados,  anfitrion};
     EntradaPanel raton{panel, trabajo, refresco, vista, avisos, estados, gestos, localizador, anfitrion};
 };
 
