@@ -59,6 +59,7 @@ struct Esquema::Partes : public Anfitrion {
         try {
             pintado.SueltaAjenos();
             accion();
+            RefrescaCuandoHayaCalma();
         } catch (...) {
             if (trabajo.bTerminado) return;
             const Fallo fallo = FalloEnCurso();
@@ -92,6 +93,9 @@ struct Esquema::Partes : public Anfitrion {
         if (!trabajo.bTerminado && !comandos.Cargando()) EnEventoSinCajas(accion);
     }
 
+    // A repaint that was asked for, and that nobody performs, is performed once the events in waiting are
+    // through, unless a drag is under way then.
+    void RefrescaCuandoHayaCalma();
     // Raises when the host has destroyed the control meanwhile.
     template <typename Emite>
     void Emitido(Emite emite) {
@@ -102,6 +106,7 @@ struct Esquema::Partes : public Anfitrion {
 
     void Conecta();
     void ConectaBarras();
+    void ConectaRaton();
     void CreaAcciones();
 
     // The layout: the parts where they belong, the view to the panel's new size.
@@ -145,8 +150,13 @@ struct Esquema::Partes : public Anfitrion {
     MaquinaEstados estados;
     GestosDeVista gestos;
     Herramientas herramientas;
+    GestosDeSubsistema gestosDeSubsistema;
+    Seleccion seleccion;
     Creacion creacion;
     Teclado teclado;
+    ArrastreElemento arrastreElemento;
+    ArrastreEtiqueta arrastreEtiqueta;
+    PuntosDeConduccion puntosDeConduccion;
     EntradaPanel entrada;
     ImagenFondo imagen;
     Comandos comandos;
@@ -154,6 +164,7 @@ struct Esquema::Partes : public Anfitrion {
     std::int16_t modoDeEscala = MODO_MILIMETROS;
     bool bAjustandoVentana = false;
     bool disponiendo = false;
+    bool refrescoPrevisto = false;
     bool seHaMostrado = false;
     bool ajustaAlMostrar = false;
     QSet<quint64> teclasVistas;  // held, and pressed here
