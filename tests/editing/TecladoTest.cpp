@@ -71,17 +71,17 @@ TEST_F(Teclas, EscapeDropsTheSelectionAndRepaintsWhateverTheState) {
 
 TEST_F(Teclas, TheViewIsZoomedFittedAndMoved) {
     const std::tuple<std::int32_t, std::vector<std::int16_t>, const char*> filas[] = {
-        {5, {107}, "129,85 141.42x-70.71"},
-        {5, {109}, "58,120 282.84x-141.42"},
-        {11, {107, 109, 'Z'}, "100,100 200x-100"},
+        {5, {107}, "129,135 141.42x-70.71"},
+        {5, {109}, "58,170 282.84x-141.42"},
+        {11, {107, 109, 'Z'}, "100,150 200x-100"},
         {3, {'Z'}, "44,78 112x-56"},
-        {5, {37}, "50,100 200x-100"},
-        {5, {38}, "100,125 200x-100"},
-        {5, {39, 40}, "150,75 200x-100"},
-        {5, {39, 39, 39, 39}, "200,100 200x-100"}};
+        {5, {37}, "50,150 200x-100"},
+        {5, {38}, "100,175 200x-100"},
+        {5, {39, 40}, "150,125 200x-100"},
+        {5, {39, 39, 39, 39}, "200,150 200x-100"}};
     for (const auto& [estado, teclas, visible] : filas) {
         vista.DisponeDeNuevo(200, 100);
-        Muestra(100, 100, 200, 100);
+        Muestra(100, 150, 200, 100);
         Repinta();
         trabajo.iEstado = estado;
         for (const std::int16_t tecla : teclas)
@@ -91,7 +91,7 @@ TEST_F(Teclas, TheViewIsZoomedFittedAndMoved) {
     }
     EXPECT_FALSE(vista.bVistaActualizada());
     Suelta(37, 1);
-    EXPECT_EQ(Visible(), "200,100 200x-100") << "with Shift";
+    EXPECT_EQ(Visible(), "200,150 200x-100") << "with Shift";
     Muestra(10, 50, 1.5F, 1);
     Repinta();
     Suelta(37);
