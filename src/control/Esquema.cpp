@@ -71,6 +71,7 @@ Esquema::~Esquema() {
     for (auto* parte : partes)
         parte->disconnect(this);
     partes_->imagen.SueltaFrame();
+    partes_->menu.Suelta();
     qDeleteAll(partes);
     partes_.reset();
 }
