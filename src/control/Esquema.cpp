@@ -67,11 +67,11 @@ Esquema::~Esquema() {
     partes_->trabajo = {};
     partes_->trabajo.bTerminado = true;
     partes_->documento.colElementos.reset();
+    partes_->menu.Suelta();
     const QWidgetList partes = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
     for (auto* parte : partes)
         parte->disconnect(this);
     partes_->imagen.SueltaFrame();
-    partes_->menu.Suelta();
     qDeleteAll(partes);
     partes_.reset();
 }
