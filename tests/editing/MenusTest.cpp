@@ -29,29 +29,26 @@ const std::string VISOR =
     "Menu General de Visor (Seleccionar un subsistema; Agregar imagen de fondo; No mostrar etiquetas; "
     "*Mostrar lineas ocultas; Modificar aspecto (Tamaño fuentes; Tamaño elementos))";
 
-TEST(Menus, OffersWhatTheSelectedElementHas) {
+TEST(Menus, OffersWhatTheSelectedElementHasAndTellsWhatTheViewShows) {
     const Vertices dos = {{0, 0}, {9, 9}}, tres = {{0, 0}, {5, 5}, {9, 9}};
     const char* const NODOS = "Mover nodos de la conducción; ";
-    const std::string ETIQUETA =
-                          "Etiqueta (*Mostrar etiqueta; Tamaño Etiqueta; Pegar etiqueta a elemento; "
-                          "*Tamaño en base al del elemento); ",
-                      PEGADA =
-                          "Etiqueta (*Mostrar etiqueta; Tamaño Etiqueta; *Pegar etiqueta a elemento; "
-                          "*Tamaño en base al del elemento); ",
-                      SIMBOLO = "Colores (Color del icono; Color del trazado); Tamaño; ",
+    const std::string SIMBOLO = "Colores (Color del icono; Color del trazado); Tamaño; ",
                       LINEA = "Colores (Color del trazado); Grosor de línea; ";
+    const auto etiqueta = [](std::string marca) {
+        return "Etiqueta (*Mostrar etiqueta; Tamaño Etiqueta; " + marca +
+               "Pegar etiqueta a elemento; *Tamaño en base al del elemento); ";
+    };
     Elemento movida = ConNombre(Lineal(ctToma, {4, 4}, tres), "X");
     movida.EtiquetaMovida(true);
     const std::pair<Elemento, std::string> filas[] = {
-        {ConNombre(Simbolo(ctNudo, {1, 1}), "X"), "Colores (Color del icono); Tamaño; " + ETIQUETA},
-        {ConNombre(Lineal(ctAcuifero, {1, 1}, tres), "X"), "Colores (Color del icono); Tamaño; " + ETIQUETA},
-        {ConNombre(Lineal(ctConduccion1, {4, 4}, dos), "X"), LINEA + PEGADA},
-        {ConNombre(Lineal(ctBombeo, {4, 4}, tres), "X"), LINEA + NODOS + PEGADA},
-        {movida, LINEA + NODOS + ETIQUETA},
-        {ConNombre(Lineal(ctCentralHidroelectrica, {5, 5}, dos), "X"), SIMBOLO + ETIQUETA},
-        {ConNombre(Lineal(ctCentralHidroelectrica, {5, 5}, dos, 1, tres), "X"), SIMBOLO + NODOS + ETIQUETA},
-        {ConNombre(Lineal(ctRetorno, {0, 0}, tres), "X"), SIMBOLO + NODOS + ETIQUETA},
-        {ConNombre(SinTraza(ctSubcuenca, {0, 0}), "X"), SIMBOLO + ETIQUETA},
+        {ConNombre(Simbolo(ctNudo, {1, 1}), "X"), "Colores (Color del icono); Tamaño; " + etiqueta("")},
+        {ConNombre(Lineal(ctConduccion1, {4, 4}, dos), "X"), LINEA + etiqueta("*")},
+        {ConNombre(Lineal(ctBombeo, {4, 4}, tres), "X"), LINEA + NODOS + etiqueta("*")},
+        {movida, LINEA + NODOS + etiqueta("")},
+        {ConNombre(Lineal(ctCentralHidroelectrica, {5, 5}, dos), "X"), SIMBOLO + etiqueta("")},
+        {ConNombre(Lineal(ctCentralHidroelectrica, {5, 5}, dos, 1, tres), "X"),
+         SIMBOLO + NODOS + etiqueta("")},
+        {ConNombre(Lineal(ctRetorno, {0, 0}, tres), "X"), SIMBOLO + NODOS + etiqueta("")},
         {Lineal(ctConduccion1, {4, 4}, dos), LINEA + "Etiqueta (Mostrar etiqueta); "}};
     for (const auto& [e, suyo] : filas) {
         const std::string editar = "Editar " + e.Nombre() + "; ";
@@ -59,9 +56,6 @@ TEST(Menus, OffersWhatTheSelectedElementHas) {
         EXPECT_EQ(Menu({&e, true}), "Volver a esquema general; Exportar seleccion; " + VISOR);
     }
     EXPECT_EQ(Menu({}), VISOR);
-}
-
-TEST(Menus, TellsWhatTheViewShows) {
     EXPECT_EQ(Menu({nullptr, false, true, false, false}),
               "Menu General de Visor (Seleccionar un subsistema; Editar imagen de fondo; Quitar imagen de "
               "fondo; *No mostrar etiquetas; Mostrar lineas ocultas; Modificar aspecto (Tamaño fuentes; "
