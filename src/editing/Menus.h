@@ -88,8 +88,7 @@ class AspectoDelMenu {
 
 AspectoDelMenu AspectoDelMenuEn(const SituacionDelMenu& situacion);
 
-// The label stands where the viewer puts it; never for elements with a symbol, whose label has no place of
-// its own to go back to by itself.
+// The label follows the middle of its line by itself, as the user has not moved it. Never so for a symbol's.
 bool EtiquetaPegada(const Elemento& e) noexcept;
 
 }  // namespace zel
