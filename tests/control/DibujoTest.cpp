@@ -21,7 +21,7 @@ class Dibujo_ : public ConRaton {
 };
 
 TEST_F(Dibujo_, ABasinOfAllKindsIsDrawnMovedSavedAndFoundAgain) {
-    const std::string vacio = carpeta.Ruta("vacio.xml"), lleno = carpeta.Ruta("lleno.xml");
+    const std::string vacio = (carpeta / "vacio.xml").string(), lleno = (carpeta / "lleno.xml").string();
     esquema.ArchivoGuardar(QString::fromStdString(vacio));
     esquema.ArchivoAbrir(QString::fromStdString(vacio));
     Pon(esquema.GetElementos());
@@ -94,7 +94,7 @@ class Subsistemas : public Dibujo_ {
     }
     // The codes of an exported subsystem, which is what is selected.
     std::string Elegidos() {
-        const std::string ruta = carpeta.Ruta("parte.xml");
+        const std::string ruta = (carpeta / "parte.xml").string();
         dialogos.ResponderArchivo(ruta);
         Orden("menuContextualSeleccionExportar");
         Esquema otro;
