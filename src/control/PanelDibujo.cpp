@@ -4,8 +4,10 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QResizeEvent>
 #include <QTimer>
+#include <utility>
 
 namespace zel {
 
@@ -74,6 +76,12 @@ qint16 Botones(Qt::MouseButtons botones) noexcept {
                                (botones & Qt::MiddleButton ? 4 : 0));
 }
 
+qint16 Mayusculas(const QMouseEvent& evento) noexcept {
+    const Qt::KeyboardModifiers m = evento.modifiers();
+    return static_cast<qint16>((m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) |
+                               (m & Qt::AltModifier ? 4 : 0));
+}
+
 }  // namespace
 
 void PanelDibujo::focusInEvent(QFocusEvent* evento) {
@@ -93,17 +101,28 @@ PuntoXY PanelDibujo::EnElMundo(QPointF punto) const {
 
 void PanelDibujo::mousePressEvent(QMouseEvent* evento) {
     const PuntoXY p = EnElMundo(evento->position());
-    emit Pulsado(Botones(evento->button()), p.X, p.Y);
+    hayClic_ = true;
+    emit Pulsado(Botones(evento->button()), Mayusculas(*evento), p.X, p.Y);
 }
 
 void PanelDibujo::mouseMoveEvent(QMouseEvent* evento) {
     const PuntoXY p = EnElMundo(evento->position());
-    emit Movido(Botones(evento->buttons()), p.X, p.Y);
+    emit Movido(Botones(evento->buttons()), Mayusculas(*evento), p.X, p.Y);
 }
 
 void PanelDibujo::mouseReleaseEvent(QMouseEvent* evento) {
     const PuntoXY p = EnElMundo(evento->position());
-    emit Soltado(Botones(evento->button()), p.X, p.Y);
+    const bool hayClic = std::exchange(hayClic_, false) && rect().contains(evento->position().toPoint());
+    const QPointer<PanelDibujo> vivo(this);
+    emit Soltado(Botones(evento->button()), Mayusculas(*evento), p.X, p.Y);
+    if (vivo && hayClic) emit Clic();
+}
+
+void PanelDibujo::mouseDoubleClickEvent(QMouseEvent* evento) {
+    if (evento->button() == Qt::RightButton)
+        mousePressEvent(evento);
+    else
+        emit DobleClic();
 }
 
 }  // namespace zel

@@ -31,10 +31,15 @@ class PanelDibujo : public QWidget {
     // to another window do not count.
     void GanaFoco();
     void PierdeFoco();
-    // The mouse, in world units; buttons 1 left, 2 right, 4 middle, 0 none. A move tells those held.
-    void Pulsado(qint16 boton, float x, float y);
-    void Movido(qint16 botones, float x, float y);
-    void Soltado(qint16 boton, float x, float y);
+    // The mouse, in world units; buttons 1 left, 2 right, 4 middle, 0 none; mayus 1 Shift + 2 Ctrl + 4 Alt. A
+    // move tells the buttons held.
+    void Pulsado(qint16 boton, qint16 mayus, float x, float y);
+    void Movido(qint16 botones, qint16 mayus, float x, float y);
+    void Soltado(qint16 boton, qint16 mayus, float x, float y);
+    // After the release, on the panel, of a press; and instead of the second press of two in a row, which is
+    // no click. Two presses of the right button are two presses.
+    void Clic();
+    void DobleClic();
 
   protected:
     void paintEvent(QPaintEvent* evento) override;
@@ -44,11 +49,13 @@ class PanelDibujo : public QWidget {
     void mousePressEvent(QMouseEvent* evento) override;
     void mouseMoveEvent(QMouseEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
 
   private:
     PuntoXY EnElMundo(QPointF punto) const;
 
     Lienzo lienzo_;
+    bool hayClic_ = false;  // the press is half a click
 };
 
 }  // namespace zel

@@ -43,10 +43,23 @@ Esquema::Partes::Partes(Esquema& dueno)
               [this] { return imagen.FondoDelPanel(); }),
       localizador(panel->lienzo(), documento, trabajo, vista,
                   [this](std::int32_t codigo) { pintado.SubrayaElem(codigo); }),
-      estados(panel->lienzo(), documento, trabajo, refresco, vista, *this),
+      estados(panel->lienzo(), documento, trabajo, refresco, vista, conexiones, *this),
       gestos(panel->lienzo(), trabajo, refresco, vista, avisos, estados, [this] { UserControl_Resize(); }),
       herramientas(panel->lienzo(), trabajo, refresco, vista, avisos, estados, gestos, *this),
-      entrada(panel->lienzo(), trabajo, refresco, vista, avisos, estados, gestos, localizador, *this),
+      gestosDeSubsistema(panel->lienzo(), trabajo, pintado, localizador, estados),
+      seleccion(panel->lienzo(), trabajo, pintado, localizador, estados, gestosDeSubsistema, *this),
+      creacion(panel->lienzo(), documento, trabajo, refresco, vista, avisos, pintado, localizador, estados,
+               *this),
+      arrastreElemento(panel->lienzo(), documento, trabajo, refresco, vista, avisos, pintado, localizador,
+                       conexiones, estados, *this),
+      arrastreEtiqueta(panel->lienzo(), documento, trabajo, refresco, vista, avisos, pintado, localizador,
+                       estados, *this),
+      puntosDeConduccion(panel->lienzo(), documento, trabajo, vista, avisos, pintado, localizador, estados,
+                         *this),
+      entrada(panel->lienzo(), trabajo, refresco, vista, avisos, estados,
+              {seleccion, gestos, creacion, arrastreElemento, arrastreEtiqueta, puntosDeConduccion,
+               gestosDeSubsistema},
+              *this),
       imagen(&dueno, documento, trabajo, refresco, estados, *this, commonDialog1,
              [this] { pintado.PintaSinMarcas(); }),
       comandos(panel->lienzo(), documento, trabajo, refresco, vista, desplazamiento, estados, *this, imagen,
@@ -96,17 +109,27 @@ void Esquema::Partes::Conecta() {
                      [this] { EnFoco([this] { herramientas.Panel_GotFocus(); }); });
     QObject::connect(panel, &PanelDibujo::PierdeFoco, &esquema,
                      [this] { EnFoco([this] { herramientas.Panel_LostFocus(); }); });
-    const auto raton = [&](auto senal, void (EntradaPanel::*atiende)(std::int16_t, float, float)) {
-        QObject::connect(panel, senal, &esquema, [this, atiende](qint16 b, float x, float y) {
-            EnEntrada([&] { (entrada.*atiende)(b, x, y); });
-        });
+    ConectaRaton();
+    ConectaBarras();
+    for (auto* parte : esquema.findChildren<QWidget*>())
+        parte->installEventFilter(&esquema);
+}
+
+void Esquema::Partes::ConectaRaton() {
+    using Atiende = void (EntradaPanel::*)(std::int16_t&, std::int16_t&, float&, float&);
+    const auto raton = [&](auto senal, Atiende atiende) {
+        QObject::connect(panel, senal, &esquema,
+                         [this, atiende](qint16 boton, qint16 mayus, float x, float y) {
+                             EnEntrada([&] { (entrada.*atiende)(boton, mayus, x, y); });
+                         });
     };
     raton(&PanelDibujo::Pulsado, &EntradaPanel::Panel_MouseDown);
     raton(&PanelDibujo::Movido, &EntradaPanel::Panel_MouseMove);
     raton(&PanelDibujo::Soltado, &EntradaPanel::Panel_MouseUp);
-    ConectaBarras();
-    for (auto* parte : esquema.findChildren<QWidget*>())
-        parte->installEventFilter(&esquema);
+    QObject::connect(panel, &PanelDibujo::Clic, &esquema,
+                     [this] { EnEntrada([this] { entrada.Panel_Click(); }); });
+    QObject::connect(panel, &PanelDibujo::DobleClic, &esquema,
+                     [this] { EnEntrada([this] { entrada.Panel_DblClick(); }); });
 }
 
 void Esquema::Partes::ConectaBarras() {
@@ -155,6 +178,17 @@ bool Esquema::Partes::BotonPulsado(Barra barra, std::string_view clave) const {
 
 void Esquema::Partes::BarraElementosActiva(bool activa) {
     toolBar1->Enabled(activa);
+}
+
+void Esquema::Partes::RefrescaCuandoHayaCalma() {
+    if (refrescoPrevisto || !refresco.bRefrescoPendiente() || Pintado::TieneContornos(trabajo.iEstado))
+        return;
+    refrescoPrevisto = true;
+    QTimer::singleShot(0, &esquema, [this] {
+        refrescoPrevisto = false;
+        if (Pintado::TieneContornos(trabajo.iEstado)) return;
+        EnEvento([this] { refresco.RefrescarSiPendiente(); });
+    });
 }
 
 // --- Layout -----------------------------------------------------------------------------------------------

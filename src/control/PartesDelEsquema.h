@@ -55,6 +55,7 @@ struct Esquema::Partes : public Anfitrion {
         try {
             pintado.SueltaAjenos();
             accion();
+            RefrescaCuandoHayaCalma();
         } catch (...) {
             if (trabajo.bTerminado) return;
             const Fallo fallo = FalloEnCurso();
@@ -88,11 +89,15 @@ struct Esquema::Partes : public Anfitrion {
         if (!trabajo.bTerminado && !comandos.Cargando()) EnEventoSinCajas(accion);
     }
 
+    // A repaint that was asked for, and that nobody performs, is performed once the events in waiting are
+    // through, unless a drag is under way then.
+    void RefrescaCuandoHayaCalma();
     template <typename Emite>
     void Emitido(Emite emite);
 
     void Conecta();
     void ConectaBarras();
+    void ConectaRaton();
     void CreaAcciones();
 
     // The layout: the parts where they belong, the view to the panel's new size.
@@ -133,6 +138,12 @@ struct Esquema::Partes : public Anfitrion {
     MaquinaEstados estados;
     GestosDeVista gestos;
     Herramientas herramientas;
+    GestosDeSubsistema gestosDeSubsistema;
+    Seleccion seleccion;
+    Creacion creacion;
+    ArrastreElemento arrastreElemento;
+    ArrastreEtiqueta arrastreEtiqueta;
+    PuntosDeConduccion puntosDeConduccion;
     EntradaPanel entrada;
     ImagenFondo imagen;
     Comandos comandos;
@@ -140,6 +151,7 @@ struct Esquema::Partes : public Anfitrion {
     std::int16_t modoDeEscala = MODO_MILIMETROS;
     bool bAjustandoVentana = false;
     bool disponiendo = false;
+    bool refrescoPrevisto = false;
     bool seHaMostrado = false;
     bool ajustaAlMostrar = false;
 };

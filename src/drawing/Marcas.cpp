@@ -9,6 +9,7 @@
 #include "drawing/Resaltado.h"
 #include "drawing/Simbolos.h"
 #include "model/TamanyoUnidad.h"
+#include "model/modErrorHandling.h"
 
 namespace zel {
 
@@ -79,6 +80,20 @@ void AlternaTramos(Superficie& panel, const Marcas& m) {
         panel.Line(Vertice(*movido.tramo, 1), Vertice(*movido.tramo, 2));
 }
 
+void E_13_DibujaColeccSegmentos(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& m) try {
+    AlternaTramos(panel, m);
+} catch (...) {
+    LanzaErrorVisor(ajustes.iEstado, ". ErrE_13_DibujaColeccSegmentos (Esquema)");
+}
+
+// The trace point that moves is a mark like those of the points to pick.
+void E_14_DibujaSegmentos(Superficie& panel, const AjustesDibujo& ajustes, const Marcas& m) try {
+    AlternaTramos(panel, m);
+    if (m.puntoReferencia) Invirtiendo(panel, [&] { MarcaPunto(panel, *m.puntoReferencia); });
+} catch (...) {
+    LanzaErrorVisor(ajustes.iEstado, ". ErrE_14_DibujaSegmentos (Esquema)");
+}
+
 // The corner of the label's box and its size are the outline's first two points.
 void AlternaCajaDeEtiqueta(Superficie& panel, const Puntos& contorno) {
     const PuntoXY a = Vertice(contorno, 1);
@@ -102,14 +117,13 @@ void AlternaContorno(Superficie& panel, const AjustesDibujo& ajustes, const Marc
             if (tiene(2)) panel.Line(Vertice(*m.trazadoTemporal, 1), Vertice(*m.trazadoTemporal, 2));
             break;
         case E_ARRASTRAR_ELEMENTO:
-            AlternaTramos(panel, m);
+            E_13_DibujaColeccSegmentos(panel, ajustes, m);
             if (!m.elemSeleccionado || !m.puntoReferencia) break;
             DibujarElemento(panel, ajustes, m.elemSeleccionado, true, m.puntoReferencia->XPos(),
                             m.puntoReferencia->YPos());
             break;
         case E_ARRASTRAR_PUNTO:
-            AlternaTramos(panel, m);
-            if (m.puntoReferencia) Invirtiendo(panel, [&] { MarcaPunto(panel, *m.puntoReferencia); });
+            E_14_DibujaSegmentos(panel, ajustes, m);
             break;
         case E_ARRASTRAR_ETIQUETA:
             if (tiene(3)) AlternaCajaDeEtiqueta(panel, *m.trazadoTemporal);

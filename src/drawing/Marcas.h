@@ -18,9 +18,9 @@ struct Marcas {
     const Puntos* trazadoNuevo2 = nullptr;
     const Punto* puntoReferencia = nullptr;
     const Puntos* curvaSeleccion = nullptr;
-    const Puntos* trazadoTemporal = nullptr;
-    std::span<const TramoMovido> colConduccionesMovidas;
     std::int32_t numeroDeCentral = 1;  // of the plant being drawn
+    const Puntos* trazadoTemporal = nullptr;
+    std::span<const TramoMovido> colConduccionesMovidas = {};
 };
 
 // Runs one step of a paint; a step that fails must not keep the others from being drawn.

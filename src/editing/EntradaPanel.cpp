@@ -11,22 +11,39 @@ namespace {
 
 constexpr std::int16_t BOTON_IZQUIERDO = 1;
 constexpr std::int16_t BOTON_DERECHO = 2;
+constexpr std::int16_t BOTON_CENTRAL = 4;
 constexpr std::int16_t MAXIMO_ZOOM = 111;
 constexpr std::int16_t MINIMO_ZOOM = 112;
+constexpr std::int16_t HAGA_DOBLE_CLIC_SOBRE_UN_ELEMENTO = 113;
 // The widths between which a click zooms, in TamanyoUnidad.
 constexpr float ANCHO_MAS_CERCANO = 10;
 constexpr float ANCHO_MAS_LEJANO = 4000;
-constexpr float TOLERANCIA = 0.5F;  // of a trace, in TamanyoUnidad
 
 bool EsBanda(std::int32_t iEstado) noexcept {
     return iEstado == E_RECUADRO_ZOOM || iEstado == E_MANO;
 }
 
+bool Dibuja(std::int32_t iEstado) noexcept {
+    return iEstado == E_DIBUJANDO || iEstado == E_DIBUJANDO_CONDUCCION;
+}
+
+// A point beyond the world comes that far inside; one that is just on its lower bounds stays.
+void Acerca(float& X, float& Y, float margen) noexcept {
+    const auto limita = [=](float& valor, float inferior, float superior) {
+        if (!(valor >= inferior))
+            valor = inferior + margen;
+        else if (valor >= superior)
+            valor = superior - margen;
+    };
+    limita(X, MUNDO_XMIN, MUNDO_XMAX);
+    limita(Y, MUNDO_YMIN, MUNDO_YMAX);
+}
+
 }  // namespace
 
 EntradaPanel::EntradaPanel(Superficie& panel, Trabajo& trabajo, Refresco& refresco, Vista& vista,
-                           Avisos& avisos, MaquinaEstados& estados, GestosDeVista& gestos,
-                           Localizador& localizador, Anfitrion& anfitrion) noexcept
+                           Avisos& avisos, MaquinaEstados& estados, const Gestos& gestos,
+                           Anfitrion& anfitrion) noexcept
     : panel_(panel),
       trabajo_(trabajo),
       refresco_(refresco),
@@ -34,53 +51,172 @@ EntradaPanel::EntradaPanel(Superficie& panel, Trabajo& trabajo, Refresco& refres
       avisos_(avisos),
       estados_(estados),
       gestos_(gestos),
-      localizador_(localizador),
       anfitrion_(anfitrion) {}
 
-void EntradaPanel::Panel_MouseDown(std::int16_t Button, float X, float Y) try {
+void EntradaPanel::Panel_MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) try {
     refresco_.AnularRefresco();
-    LimitaAlMundo(X, Y);
-    const bool deVista = trabajo_.iEstado == E_ZOOM || EsBanda(trabajo_.iEstado);
-    if (deVista && Button == BOTON_DERECHO)
-        estados_.Estado(E_PREPARADO, 1);
-    else if (trabajo_.iEstado == E_ZOOM)
-        ClicDeZoom(X, Y);
-    else if (EsBanda(trabajo_.iEstado))
-        gestos_.EmpiezaBanda(X, Y);
+    // A new symbol has room there.
+    const auto margen = [&] { return Dibuja(trabajo_.iEstado) ? TamanyoUnidad() + 1 : 1; };
+    Acerca(X, Y, margen());
+    anfitrion_.MouseDown(Button, Shift, X, Y);
+    Acerca(X, Y, margen());
+    trabajo_.bPrensaArrastra = false;
+    if (Button == BOTON_DERECHO && !Dibuja(trabajo_.iEstado))
+        PulsaElDerecho(X, Y);
+    else
+        Pulsa(Button, X, Y);
     if (!EsBanda(trabajo_.iEstado)) {
         if (!vista_.bVistaActualizada()) refresco_.PedirRefresco();
         vista_.bVistaActualizada(true);
     }
-    refresco_.RefrescarSiPendiente();
+    if (trabajo_.iEstado == E_DIBUJANDO_CONDUCCION) refresco_.RefrescarSiPendiente();
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrPanel_MouseDown (Esquema)");
 }
 
-void EntradaPanel::Panel_MouseMove(std::int16_t Button, float X, float Y) try {
-    const Refresco::Marcas pendiente = refresco_.marcas();
-    refresco_.AnularRefresco();
-    LimitaAlMundo(X, Y);
-    estados_.MuestraPosicion(X, Y);
-    if (EsBanda(trabajo_.iEstado) && Button == BOTON_IZQUIERDO) gestos_.MueveBanda(X, Y);
-    if (trabajo_.iEstado == E_PREPARADO && Button == 0) {
-        localizador_.BuscaElemento(X, Y, nullptr, false, false, nullptr, TOLERANCIA, false);
+void EntradaPanel::Pulsa(std::int16_t Button, float X, float Y) {
+    switch (trabajo_.iEstado) {
+        case E_ZOOM:
+            return ClicDeZoom(X, Y);
+        case E_DIBUJANDO:
+        case E_DIBUJANDO_CONDUCCION:
+            return gestos_.creacion.Pulsa(Button, X, Y);
+        case E_PREPARADO:
+            return gestos_.seleccion.Pulsa(X, Y);
+        case E_MOVER_ELEMENTO:
+            return gestos_.elemento.MueveAlInstante(X, Y);
+        case E_MOVER_ETIQUETA:
+            return gestos_.etiqueta.MueveAlInstante(X, Y);
+        case E_ESCOGER_PUNTO:
+            return gestos_.puntos.Escoge(X, Y);
+        case E_ESPERAR_SUBSISTEMA:
+            if (Button == BOTON_IZQUIERDO) gestos_.subsistema.EmpiezaLazo(X, Y);
+            return;
+        case E_SUBSISTEMA:
+            return anfitrion_.LanzaMenu();
+        case E_UNO_A_UNO:
+            return gestos_.subsistema.Alterna(X, Y);
+        case E_RECUADRO_ZOOM:
+        case E_MANO:
+            return gestos_.vista.EmpiezaBanda(X, Y);
+        default:
+            return;
     }
-    if (pendiente.bRefrescoPendiente) refresco_.PedirRefresco();
+}
+
+void EntradaPanel::PulsaElDerecho(float X, float Y) {
+    switch (trabajo_.iEstado) {
+        case E_PREPARADO:
+        case E_SUBSISTEMA:
+            return anfitrion_.LanzaMenu();
+        case E_ZOOM:
+        case E_MOVER_ELEMENTO:
+        case E_MOVER_ETIQUETA:
+        case E_ESCOGER_PUNTO:
+        case E_ESPERAR_SUBSISTEMA:
+        case E_RECUADRO_ZOOM:
+        case E_MANO:
+            return estados_.Estado(E_PREPARADO, 1);
+        case E_UNO_A_UNO:
+            return gestos_.subsistema.Alterna(X, Y);
+        default:
+            return;
+    }
+}
+
+void EntradaPanel::Panel_MouseMove(std::int16_t& Button, std::int16_t&, float& X, float& Y) try {
+    const bool pendiente = refresco_.bRefrescoPendiente();
+    refresco_.AnularRefresco();
+    Acerca(X, Y, 1);
+    estados_.MuestraPosicion(X, Y);
+    trabajo_.ultimoRaton = {X, Y};
+    Mueve(Button, X, Y);
+    if (pendiente) refresco_.PedirRefresco();
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrPanel_MouseMove (Esquema)");
 }
 
-void EntradaPanel::Panel_MouseUp(std::int16_t, float, float) try {
-    const Refresco::Marcas pendiente = refresco_.marcas();
+void EntradaPanel::Mueve(std::int16_t Button, float X, float Y) {
+    const bool arrastra = (Button & (BOTON_IZQUIERDO | BOTON_CENTRAL)) != 0;
+    if (trabajo_.iEstado == E_DIBUJANDO_CONDUCCION) return gestos_.creacion.Mueve(X, Y);
+    if (Button == 0) {
+        if (trabajo_.iEstado == E_PREPARADO) gestos_.seleccion.Sobrevuela(X, Y);
+        if (trabajo_.iEstado == E_ESCOGER_PUNTO) gestos_.puntos.Sobrevuela(X, Y);
+    }
+    if (!arrastra) return;
+    switch (trabajo_.iEstado) {
+        case E_PREPARADO:
+            return gestos_.seleccion.EmpiezaArrastre(X, Y);
+        case E_LAZO:
+            return gestos_.subsistema.SigueLazo(X, Y);
+        case E_ARRASTRAR_ELEMENTO:
+            return gestos_.elemento.Arrastra(X, Y);
+        case E_ARRASTRAR_PUNTO:
+            return gestos_.puntos.Arrastra(X, Y);
+        case E_ARRASTRAR_ETIQUETA:
+            return gestos_.etiqueta.Arrastra(X, Y);
+        case E_RECUADRO:
+        case E_RECUADRO_ZOOM:
+        case E_MANO:
+            return gestos_.vista.MueveBanda(X, Y);
+        default:
+            return;
+    }
+}
+
+void EntradaPanel::Panel_MouseUp(std::int16_t&, std::int16_t&, float& X, float& Y) try {
+    const bool pendiente = refresco_.bRefrescoPendiente();
     refresco_.AnularRefresco();
-    if (trabajo_.iEstado == E_RECUADRO_ZOOM)
-        gestos_.E_18_AplicaZoom();
-    else if (trabajo_.iEstado == E_MANO)
-        gestos_.E_19_Aplica();
-    if (pendiente.bRefrescoPendiente) refresco_.PedirRefresco();
+    Acerca(X, Y, 1);
+    trabajo_.bBotonPulsadoSobreElemento = false;
+    Suelta(X, Y);
+    if (pendiente) refresco_.PedirRefresco();
     refresco_.RefrescarSiPendiente();
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrPanel_MouseUp (Esquema)");
+}
+
+void EntradaPanel::Suelta(float X, float Y) {
+    switch (trabajo_.iEstado) {
+        case E_PREPARADO:
+            return gestos_.seleccion.Suelta();
+        case E_LAZO:
+            return gestos_.subsistema.CierraLazo(X, Y);
+        case E_ARRASTRAR_ELEMENTO:
+            return gestos_.elemento.Suelta();
+        case E_ARRASTRAR_PUNTO:
+            return gestos_.puntos.Suelta(X, Y);
+        case E_ARRASTRAR_ETIQUETA:
+            return gestos_.etiqueta.Suelta(X, Y);
+        case E_RECUADRO:
+            return gestos_.subsistema.TomaRecuadro();
+        case E_RECUADRO_ZOOM:
+            return gestos_.vista.E_18_AplicaZoom();
+        case E_MANO:
+            return gestos_.vista.E_19_Aplica();
+        default:
+            return;
+    }
+}
+
+void EntradaPanel::Panel_Click() try { anfitrion_.Click(); } catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrPanel_Click (Esquema)");
+}
+
+// Not after the background picture's "Aceptar", whose second press it would be.
+void EntradaPanel::Panel_DblClick() try {
+    if (trabajo_.iEstado == E_PREPARADO && trabajo_.iEstadoAnterior != E_IMAGEN_FONDO) {
+        anfitrion_.DblClick();
+        std::int32_t iRefrescar = 1;
+        if (const auto elem = trabajo_.elemSeleccionado)
+            anfitrion_.EditarElemento(elem->gfCodSIG());
+        else
+            avisos_.LanzaMensaje(HAGA_DOBLE_CLIC_SOBRE_UN_ELEMENTO, 0, iRefrescar);
+    }
+    refresco_.PedirRefresco();
+    refresco_.RefrescarSiPendiente();
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". ErrPanel_DblClick (Esquema)");
 }
 
 // Twice as close, or as far, around the point pressed. A refused one still centres there.

@@ -2,23 +2,46 @@
 
 #include <cstdint>
 
+#include "editing/ArrastreElemento.h"
+#include "editing/ArrastreEtiqueta.h"
+#include "editing/Creacion.h"
 #include "editing/GestosDeVista.h"
-#include "session/Localizador.h"
+#include "editing/PuntosDeConduccion.h"
+#include "editing/Seleccion.h"
 
 namespace zel {
 
-// The panel's mouse, in world units. Buttons: 1 left, 2 right, 4 middle.
+// The panel's mouse, in world units. Buttons: 1 left, 2 right, 4 middle; of a move, those held. Shift: 1
+// Shift
+// + 2 Ctrl + 4 Alt. What a button does is up to the state; the middle one acts as the left one.
 class EntradaPanel {
   public:
+    // What the mouse does, family by family.
+    struct Gestos {
+        Seleccion& seleccion;
+        GestosDeVista& vista;
+        Creacion& creacion;
+        ArrastreElemento& elemento;
+        ArrastreEtiqueta& etiqueta;
+        PuntosDeConduccion& puntos;
+        GestosDeSubsistema& subsistema;
+    };
     EntradaPanel(Superficie& panel, Trabajo& trabajo, Refresco& refresco, Vista& vista, Avisos& avisos,
-                 MaquinaEstados& estados, GestosDeVista& gestos, Localizador& localizador,
-                 Anfitrion& anfitrion) noexcept;
+                 MaquinaEstados& estados, const Gestos& gestos, Anfitrion& anfitrion) noexcept;
 
-    void Panel_MouseDown(std::int16_t Button, float X, float Y);
-    void Panel_MouseMove(std::int16_t Button, float X, float Y);
-    void Panel_MouseUp(std::int16_t Button, float X, float Y);
+    // The arguments come back as they were used: brought into the world, and changed by the host.
+    void Panel_MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
+    void Panel_MouseMove(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
+    void Panel_MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
+    // A press and its release; the second press of two in a row, instead of it.
+    void Panel_Click();
+    void Panel_DblClick();
 
   private:
+    void Pulsa(std::int16_t Button, float X, float Y);
+    void PulsaElDerecho(float X, float Y);
+    void Mueve(std::int16_t Button, float X, float Y);
+    void Suelta(float X, float Y);
     void ClicDeZoom(float X, float Y);
 
     Superficie& panel_;
@@ -27,8 +50,7 @@ class EntradaPanel {
     Vista& vista_;
     Avisos& avisos_;
     MaquinaEstados& estados_;
-    GestosDeVista& gestos_;
-    Localizador& localizador_;
+    Gestos gestos_;
     Anfitrion& anfitrion_;
 };
 

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "drawing/Marcas.h"
+#include "drawing/NumeroDeEstado.h"
 #include "model/Mensajes.h"
 #include "model/modErrorHandling.h"
 #include "platform/Dialogos.h"
@@ -43,15 +45,11 @@ void GestosDeVista::EmpiezaBanda(float x, float y) {
 }
 
 void GestosDeVista::DibujaBanda() const {
-    const auto punto = [&](std::int32_t i) -> PuntoXY {
-        const auto p = trabajo_.trazadoTemporal->Item(i);
-        return {p->XPos(), p->YPos()};
-    };
-    panel_.DrawMode(Superficie::MODO_INVERTIR);
-    if (trabajo_.iEstado == E_MANO)
-        panel_.Line(punto(1), punto(3));
-    else
-        panel_.Caja(punto(1), punto(2));
+    AjustesDibujo ajustes;
+    ajustes.iEstado = trabajo_.iEstado;
+    Marcas marcas;
+    marcas.trazadoTemporal = trabajo_.trazadoTemporal.get();
+    AlternaContorno(panel_, ajustes, marcas);
 }
 
 void GestosDeVista::MueveBanda(float x, float y) {

@@ -3,7 +3,7 @@
 #include "drawing/Colores.h"
 #include "drawing/Cursores.h"
 #include "drawing/Etiquetas.h"
-#include "editing/ArrastreElemento.h"
+#include "editing/ConduccionesMovidas.h"
 #include "editing/Nombres.h"
 #include "editing/Subsistema.h"
 #include "model/Mensajes.h"
@@ -26,12 +26,13 @@ bool EsUnoDe(std::int32_t estado, Estados... estados) noexcept {
 }  // namespace
 
 MaquinaEstados::MaquinaEstados(Superficie& panel, Documento& documento, Trabajo& trabajo, Refresco& refresco,
-                               Vista& vista, Anfitrion& anfitrion) noexcept
+                               Vista& vista, Conexiones& conexiones, Anfitrion& anfitrion) noexcept
     : panel_(panel),
       documento_(documento),
       trabajo_(trabajo),
       refresco_(refresco),
       vista_(vista),
+      conexiones_(conexiones),
       anfitrion_(anfitrion) {}
 
 void MaquinaEstados::Estado(std::int32_t nuevoEstado, std::int32_t bRefrescar) try {
@@ -116,10 +117,17 @@ void MaquinaEstados::EntraPreparado(Fila fila, std::int32_t viejo, std::int32_t 
         BorrarVariablesEstado(false);
     }
     Pon(fila);
-    if (trabajo_.elemSeleccionado) Prompt(trabajo_.elemSeleccionado->Nombre());
+    PromptDePreparado();
     Pide(bRefrescar);
     panel_.DrawStyle(Superficie::ESTILO_SOLIDO);
     vista_.bVistaActualizada(true);
+}
+
+void MaquinaEstados::PromptDePreparado() {
+    if (trabajo_.elemSeleccionado)
+        Prompt(trabajo_.elemSeleccionado->Nombre());
+    else
+        Prompt(EstadoDe(E_PREPARADO)->mensaje);
 }
 
 void MaquinaEstados::EntraMoverElemento(Fila fila, std::int32_t, std::int32_t bRefrescar) {
@@ -176,7 +184,7 @@ void MaquinaEstados::EntraArrastrarElemento(Fila fila, std::int32_t, std::int32_
     }
     trabajo_.iEstado = fila.numero;
     refresco_.AnularRefresco();
-    E_13_BuscaConduccionesParaMovimiento(documento_, trabajo_);
+    E_13_BuscaConduccionesParaMovimiento(conexiones_, documento_, trabajo_);
     trabajo_.puntoReferencia = std::make_shared<Punto>(e->XPos(), e->YPos());
     Pon(fila);
     Pide(bRefrescar);

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "editing/Estados.h"
+#include "model/Conexiones.h"
 #include "session/Anfitrion.h"
 #include "session/Documento.h"
 #include "session/Refresco.h"
@@ -18,7 +19,7 @@ namespace zel {
 class MaquinaEstados {
   public:
     MaquinaEstados(Superficie& panel, Documento& documento, Trabajo& trabajo, Refresco& refresco,
-                   Vista& vista, Anfitrion& anfitrion) noexcept;
+                   Vista& vista, Conexiones& conexiones, Anfitrion& anfitrion) noexcept;
 
     // The only change of state. bRefrescar 1 asks for a repaint where the state's entry allows it. A number
     // that is no state changes nothing but iEstadoAnterior; a state whose needs are not met (an element
@@ -33,6 +34,9 @@ class MaquinaEstados {
     // Brings the bars into line with the state. Of the view tools, `sClave` tells which of the two zooms.
     void RevisaBarraToolbar1();
     void RevisaBarraToolbar2(std::string_view sClave);
+
+    // What the status bar says in state 5: the name of the selected element, or that there is none.
+    void PromptDePreparado();
 
     // Where the mouse is, in panels 2 and 3 of the status bar; with bDepurarEstado, the state.
     void MuestraPosicion(float x, float y);
@@ -70,6 +74,7 @@ class MaquinaEstados {
     Trabajo& trabajo_;
     Refresco& refresco_;
     Vista& vista_;
+    Conexiones& conexiones_;
     Anfitrion& anfitrion_;
 };
 

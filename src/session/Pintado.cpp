@@ -15,12 +15,6 @@ namespace {
 
 constexpr std::size_t CAJAS_POR_PINTADO = 3;
 
-// Their outlines are on the panel alone: a repaint would wipe them.
-bool TieneContornos(std::int32_t iEstado) noexcept {
-    return iEstado == E_LAZO || iEstado == E_ARRASTRAR_ELEMENTO || iEstado == E_ARRASTRAR_PUNTO ||
-           (iEstado >= E_ARRASTRAR_ETIQUETA && iEstado <= E_MANO);
-}
-
 }  // namespace
 
 Pintado::Pintado(Superficie& panel, Documento& documento, Trabajo& trabajo, Refresco& refresco, Vista& vista,
@@ -32,6 +26,11 @@ Pintado::Pintado(Superficie& panel, Documento& documento, Trabajo& trabajo, Refr
       vista_(vista),
       desplazamiento_(desplazamiento),
       fondo_(std::move(fondo)) {}
+
+bool Pintado::TieneContornos(std::int32_t iEstado) noexcept {
+    return iEstado == E_LAZO || iEstado == E_ARRASTRAR_ELEMENTO || iEstado == E_ARRASTRAR_PUNTO ||
+           (iEstado >= E_ARRASTRAR_ETIQUETA && iEstado <= E_MANO);
+}
 
 const Elementos& Pintado::ConjuntoPintado() const noexcept {
     const bool parte = trabajo_.iEstado == E_SUBSISTEMA && trabajo_.elemSubsistema;

@@ -27,8 +27,10 @@ class Pintado {
     // up to date. Inside itself it does nothing. What could not be drawn is told in boxes once it is over,
     // at most three, the last with the number of those left out.
     void Panel_Paint();
-    // The control itself is to be repainted; not in the middle of a drag, whose outlines it would wipe.
+    // The control itself is to be repainted; not in the middle of a drag.
     void UserControl_Paint();
+    // The state is a drag with its outline.
+    static bool TieneContornos(std::int32_t iEstado) noexcept;
     // While it is set, boxes wait for DiPendientes: a platform in the middle of a resize, a show or a change
     // of focus stands no box.
     // Returns what it was.

@@ -119,7 +119,7 @@ TEST(Resaltado, EachStateShowsWhatTheUserHasInHand) {
         {8, &toma, marco, "13 1 1 16711680"},
         {9, &central, una + "; caja 14.2,14.2 15.8,15.8", invertido + "; 6 0 1 lleno"},
         {12, &central, una + "; linea 0,0 50,0 0,0", invertido + "; 13 0 1 16711680"},
-        {13, &central, "", ""},
+        {13, nullptr, "", ""},
         {15, &central, "caja 95,45 105,55; caja 145,45 155,55", invertido + "; 6 0 1 lleno"},
         {16, &central, "", ""}};
 

@@ -68,7 +68,7 @@ TEST_F(Estados, EveryStateIsEnteredWithItsPromptCursorObjectsAndButtons) {
         {12, 11, NUDO, ctFlecha, 5, "Cauce", "normal", 1, "te", "flecha|"},
         {12, 17, 0, ctFlecha, 5, M(5217), "normal", 1, "nmrstv", "flecha|"},
         {13, 5, NUDO, ctFlecha, 13, M(5225), "202", 1, "nmrcs4te", "|zoommas"},
-        {13, 5, CENTRAL, ctFlecha, 13, M(5225), "202", 1, "nmrcs4te", "|zoommas"},
+        {13, 5, CENTRAL, ctFlecha, 13, M(5225), "202", 1, todo + "e", "|zoommas"},
         {13, 5, TOMA, ctFlecha, 5, "Riego", "normal", 1, todo + "e", "flecha|"},
         {13, 5, 0, ctFlecha, 5, M(5217), "normal", 1, todo, "flecha|"},
         {14, 8, TOMA, ctFlecha, 14, "", "", 0, todo + "e", "|zoommas"},

@@ -12,10 +12,10 @@ class Herramienta : public MesaDeEdicion {
         panel.limpiezas = 0;
     }
     void Arrastra(const Vertices& puntos) {
-        raton.Panel_MouseDown(1, puntos[0].X, puntos[0].Y);
+        Pulsa(puntos[0].X, puntos[0].Y, 1);
         for (const PuntoXY& p : puntos)
-            raton.Panel_MouseMove(1, p.X, p.Y);
-        raton.Panel_MouseUp(1, puntos.back().X, puntos.back().Y);
+            Mueve(p.X, p.Y, 1);
+        Suelta(puntos.back().X, puntos.back().Y, 1);
     }
     const char* const MAXIMO = "Se ha alcanzado el máximo zoom";
 };
@@ -51,11 +51,11 @@ TEST_F(Herramienta, ARefusedZoomRectangleLeavesTheViewAndTheState) {
     EXPECT_EQ(trabajo.iEstado, 18);
     EXPECT_EQ(trabajo.trazadoTemporal, nullptr);
     EXPECT_TRUE(panel.De(Que::Caja).empty()) << "the repaint wipes the band";
-    raton.Panel_MouseUp(1, 100, 50);  // without a band
+    Suelta(100, 50, 1);  // without a band
     EXPECT_EQ(trabajo.iEstado, 5);
     for (const char* clave : {"zoomRecuadro", "mano", "zoommas"}) {
         herramientas.Toolbar2_ButtonClick(clave);
-        raton.Panel_MouseDown(2, 100, 50);
+        Pulsa(100, 50, 2);
         EXPECT_EQ(trabajo.iEstado, 5) << clave;
     }
 }
@@ -64,9 +64,9 @@ TEST_F(Herramienta, TheBandsAreDrawnTwiceToErase) {
     for (const auto& [clave, banda] : {std::pair("zoomRecuadro", "caja"), {"mano", "linea"}}) {
         herramientas.Toolbar2_ButtonClick(clave);
         panel.trazos.clear();
-        raton.Panel_MouseDown(1, 20, 30);
+        Pulsa(20, 30, 1);
         for (const float x : {50.0F, 90.0F})
-            raton.Panel_MouseMove(1, x, 70);
+            Mueve(x, 70, 1);
         const std::string uno = std::string(banda) + " 20,30 20,30; ",
                           dos = std::string(banda) + " 20,30 50,70; ";
         EXPECT_EQ(Relato(panel.trazos), uno + uno + dos + dos + banda + " 20,30 90,70");
@@ -84,7 +84,7 @@ TEST_F(Herramienta, TheHandMovesTheViewAndStaysInHand) {
     EXPECT_EQ(Visible(), "-30,90 200x-100");
     Arrastra({{10, 50}, {0, 20}});
     EXPECT_EQ(Visible(), "-20,120 200x-100");
-    raton.Panel_MouseUp(1, 50, 50);
+    Suelta(50, 50, 1);
     EXPECT_EQ(Visible(), "-20,120 200x-100");
     EXPECT_EQ(trabajo.iEstado, 19);
     EXPECT_EQ(Pulsados(), "|mano");
@@ -189,8 +189,9 @@ TEST_F(Herramienta, APressBringsTheAquifersDotsBackButNotInADragOfTheView) {
         trabajo.iEstado = estado;
         vista.bVistaActualizada(false);
         panel.limpiezas = 0;
-        raton.Panel_MouseDown(1, 50, 50);
+        Pulsa(50, 50, 1);
         EXPECT_EQ(vista.bVistaActualizada(), estado < 18);
+        if (estado < 18) Suelta(50, 50);
         EXPECT_EQ(panel.limpiezas, estado < 18 ? 1 : 0);
     }
 }

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "editing/Creacion.h"
 #include "editing/EntradaPanel.h"
 #include "editing/Herramientas.h"
 #include "support/Mesa.h"
 
 namespace zel::pruebas {
 
-// The same with what edits: state machine, tools, creation and mouse.
+// The same with what edits: state machine, tools and mouse.
 class MesaDeEdicion : public Mesa {
   protected:
     // What there is in hand, a letter each: the trace being drawn (N: empty) and its second part, the
@@ -57,14 +56,46 @@ class MesaDeEdicion : public Mesa {
         return panel.puntero < 0 ? "" : panel.puntero == Superficie::PUNTERO_CRUZ ? "cruz" : "normal";
     }
 
-    MaquinaEstados estados{panel, documento, trabajo, refresco, vista, anfitrion};
+    // The mouse as the panel tells it.
+    void Pulsa(float x, float y, std::int16_t boton = 1) {
+        std::int16_t mayus = 0;
+        raton.Panel_MouseDown(boton, mayus, x, y);
+    }
+    void Mueve(float x, float y, std::int16_t botones = 1) {
+        std::int16_t mayus = 0;
+        raton.Panel_MouseMove(botones, mayus, x, y);
+    }
+    void Suelta(float x, float y, std::int16_t boton = 1) {
+        std::int16_t mayus = 0;
+        raton.Panel_MouseUp(boton, mayus, x, y);
+    }
+
+    Conexiones conexiones;
+    MaquinaEstados estados{panel, documento, trabajo, refresco, vista, conexiones, anfitrion};
     GestosDeVista gestos{
         panel, trabajo, refresco, vista, avisos, estados, [this] { vista.Dispone(200, 100); }};
     Herramientas herramientas{panel, trabajo, refresco, vista, avisos, estados, gestos, anfitrion};
-    Localizador localizador{panel, documento, trabajo, vista, {}};
+    Localizador localizador{panel, documento, trabajo, vista,
+                            [this](std::int32_t codigo) { pintado.SubrayaElem(codigo); }};
+    GestosDeSubsistema gestosDeSubsistema{panel, trabajo, pintado, localizador, estados};
+    Seleccion seleccion{panel, trabajo, pintado, localizador, estados, gestosDeSubsistema, anfitrion};
     Creacion creacion{panel,  documento, trabajo,     refresco, vista,
                       avisos, pintado,   localizador, estados,  anfitrion};
-    EntradaPanel raton{panel, trabajo, refresco, vista, avisos, estados, gestos, localizador, anfitrion};
+    ArrastreElemento arrastreElemento{panel,   documento,   trabajo,    refresco, vista,    avisos,
+                                      pintado, localizador, conexiones, estados,  anfitrion};
+    ArrastreEtiqueta arrastreEtiqueta{panel,  documento, trabajo,     refresco, vista,
+                                      avisos, pintado,   localizador, estados,  anfitrion};
+    PuntosDeConduccion puntosDeConduccion{panel,   documento,   trabajo, vista,    avisos,
+                                          pintado, localizador, estados, anfitrion};
+    EntradaPanel raton{panel,
+                       trabajo,
+                       refresco,
+                       vista,
+                       avisos,
+                       estados,
+                       {seleccion, gestos, creacion, arrastreElemento, arrastreEtiqueta, puntosDeConduccion,
+                        gestosDeSubsistema},
+                       anfitrion};
 };
 
 }  // namespace zel::pruebas

@@ -1,0 +1,242 @@
+// Selecting and moving with the mouse: elements with what is attached to them, labels, trace points.
+#include "control/ConRaton.h"
+#include "model/Contorno.h"
+
+namespace zel::pruebas {
+namespace {
+
+std::string Contorno(PuntoXY centro, PuntoXY hacia) {
+    const Punto p = PuntoDelContorno(centro.X, centro.Y, hacia.X, hacia.Y, 4);
+    return Cifra(p.XPos()) + "," + Cifra(p.YPos());
+}
+
+// Nodes 1 (20, 100), 2 (100, 100) and 3 (100, 60); a conduit 4 from 1 to 2 in one segment, a bent one 5 from
+// 1 to 3; a plant 6 at (60, 20) from 1 to 3; a reservoir 7 at (150, 20) with an inflow 8 at (150, 50), and a
+// sub-basin 9 at (180, 80) on that.
+class Movimientos : public ConRaton {
+  protected:
+    Movimientos() {
+        auto todos = std::make_shared<Elementos>();
+        const auto nudo = [&](std::int32_t c, float x, float y, TipoElemento tipo = ctNudo) {
+            todos->Add(tipo, "N" + std::to_string(c), c, static_cast<std::int16_t>(c), x, y, 0, 0, nullptr,
+                       nullptr, std::to_string(c), 6, 6);
+        };
+        const auto lineal = [&](TipoElemento tipo, std::int32_t c, PuntoXY donde, std::int32_t ini,
+                                std::int32_t fin, const Vertices& t, const Vertices& t2 = {}) {
+            todos->Add(tipo, "L" + std::to_string(c), c, static_cast<std::int16_t>(c), donde.X, donde.Y, ini,
+                       fin, Traza(t), Traza(t2), std::to_string(c), 6, 6);
+        };
+        nudo(1, 20, 100);
+        nudo(2, 100, 100);
+        nudo(3, 100, 60);
+        lineal(ctConduccion1, 4, {60, 100}, 1, 2, {{24, 100}, {96, 100}});
+        lineal(ctToma, 5, {40, 60}, 1, 3, {{20, 96}, {20, 80}, {60, 80}, {97, 63}});
+        lineal(ctCentralHidroelectrica, 6, {60, 20}, 1, 3, {{20, 96}, {20, 40}, {57, 23}},
+               {{64, 20}, {100, 20}, {100, 56}});
+        nudo(7, 150, 20, ctEmbalse);
+        lineal(ctAportacion, 8, {150, 50}, 8, 7, {{150, 46}, {150, 24}});
+        lineal(ctSubcuenca, 9, {180, 80}, 9, 8, {{177, 77}, {153, 53}});
+        Pon(todos);
+        esquema.bHabidoCambios(false);
+    }
+    std::string Traza_(std::int32_t codigo) const { return Relato(Elem(codigo)->Trazado()); }
+    std::string Traza2_(std::int32_t codigo) const { return Relato(Elem(codigo)->Trazado2()); }
+};
+
+TEST_F(Movimientos, AFirstPressOnlySelectsAndTheNextOneDrags) {
+    Arrastra({{20, 100}, {30, 110}, {40, 110}});
+    EXPECT_EQ(Sucesos(), "MouseDown; Seleccionado 1; Click");
+    EXPECT_EQ(Donde(1), "20,100");
+    Mueve({20, 100});
+    EXPECT_EQ(Prompt(), "[1] N1 Arrastre a la posición deseada el elemento");
+    Mueve({130, 130});
+    EXPECT_EQ(Prompt(), "N1");
+    Arrastra({{20, 100}, {30, 110}, {40, 120}});
+    EXPECT_EQ(Sucesos(), "MouseDown; Seleccionado 1; Movido 1; Click");
+    EXPECT_EQ(Donde(1), "40,120");
+    EXPECT_TRUE(esquema.bHabidoCambios());
+    EXPECT_EQ(Imagen(), RecienPintada());
+    Clic({140, 130});
+    EXPECT_EQ(Sucesos(), "MouseDown; Click");
+    EXPECT_EQ(esquema.CodigoElemento(), -1);
+}
+
+TEST_F(Movimientos, WhatIsAttachedFollowsAMovedElement) {
+    SeleccionaYArrastra({{20, 100}, {20, 101}, {20, 120}});
+    EXPECT_EQ(Donde(1), "20,120");
+    EXPECT_EQ(Traza_(4), Contorno({20, 120}, {100, 100}) + " " + Contorno({100, 100}, {20, 120}))
+        << "both ends of two points turn";
+    EXPECT_EQ(Traza_(5), "20,116 20,80 60,80 97,63") << "only the end on the node moves";
+    EXPECT_EQ(Traza_(6), "20,116 20,40 57,23");
+    EXPECT_EQ(Donde(4), "60,110") << "the label follows the middle of its trace";
+    EXPECT_EQ(Cifra(Elem(4)->EtiquetaPosX()), "0.24");
+
+    Elem(4)->EtiquetaMovida(true);
+    SeleccionaYArrastra({{100, 100}, {100, 101}, {100, 120}});
+    EXPECT_EQ(Traza_(4), "24,120 96,120");
+    EXPECT_EQ(Donde(4), "60,110") << "a label that the user has placed stays";
+
+    SeleccionaYArrastra({{60, 20}, {61, 20}, {60, 30}});
+    EXPECT_EQ(Traza_(6), "20,116 20,40 " + Contorno({60, 30}, {20, 40}));
+    EXPECT_EQ(Traza2_(6), Contorno({60, 30}, {100, 20}) + " 100,20 100,56");
+
+    SeleccionaYArrastra({{150, 50}, {151, 50}, {170, 50}});
+    EXPECT_EQ(Traza_(8), Contorno({170, 50}, {150, 20}) + " " + Contorno({150, 20}, {170, 50}));
+    EXPECT_EQ(Traza_(9), Contorno({180, 80}, {170, 50}) + " " + Contorno({170, 50}, {180, 80}))
+        << "a sub-basin follows its inflow";
+    EXPECT_EQ(Imagen(), RecienPintada());
+}
+
+TEST_F(Movimientos, AnElementIsNotDroppedOntoAnother) {
+    const struct {
+        PuntoXY desde, hasta;
+        const char* aviso;
+        std::int32_t codigo;
+    } filas[] = {
+        {{20, 100}, {100, 102}, "Elementos superpuestos", 1},
+        {{20, 100}, {60, 80}, "Elementos superpuestos", 1},    // the bend of what is attached
+        {{20, 100}, {109, 104}, "Elementos superpuestos", 1},  // a label
+        {{60, 20}, {20, 60}, "Superposición de los gráficos que integran el elemento arrastrado", 6},
+        {{20, 100}, {50, 100}, nullptr, 1},  // its own piece of the conduit
+        {{100, 60}, {80, 71}, nullptr, 3},   // the last segment
+    };
+    for (const auto& [desde, hasta, aviso, codigo] : filas) {
+        if (aviso) dialogos.Espera(aviso);
+        const std::string antes = Donde(codigo);
+        SeleccionaYArrastra({desde, {desde.X + 1, desde.Y}, hasta});
+        EXPECT_EQ(Sucesos() == "MouseDown; Seleccionado " + std::to_string(codigo) + "; Click",
+                  aviso != nullptr);
+        EXPECT_EQ(Donde(codigo) == antes, aviso != nullptr) << hasta.X;
+        EXPECT_EQ(esquema.bHabidoCambios(), aviso == nullptr);
+        EXPECT_EQ(Imagen(), RecienPintada());
+    }
+}
+
+TEST_F(Movimientos, AnAbandonedDragLeavesThePanelAsItWas) {
+    esquema.Seleccionar(1);
+    const QImage antes = RecienPintada();
+    Clic({20, 100});
+    const auto empieza = [&] {
+        Pulsa({20, 100});
+        Mueve({30, 100});
+        Mueve({40, 90});
+        Mueve({140, 90});
+        EXPECT_NE(Imagen(), antes);
+    };
+    const std::function<void()> abandonos[] = {[&] { QTest::keyClick(Panel(), Qt::Key_Escape); },
+                                               [&] { Parte("HScroll")->setFocus(Qt::TabFocusReason); },
+                                               [&] { esquema.Seleccionar(1); },
+                                               [&] { esquema.BackColor(esquema.BackColor()); }};
+    for (const auto& abandona : abandonos) {
+        Panel()->setFocus();
+        empieza();
+        abandona();
+        Mueve({150, 95});
+        if (&abandona != &abandonos[3]) {
+            EXPECT_EQ(Prompt(), "N1") << "the same press drags no more";
+            EXPECT_EQ(Imagen(), antes);
+        }
+        if (&abandona == &abandonos[3]) QTest::keyClick(Panel(), Qt::Key_Escape);  // a repaint in the middle
+        Suelta({150, 95});
+        EXPECT_EQ(Imagen(), antes);
+        EXPECT_EQ(Donde(1), "20,100");
+    }
+}
+
+TEST_F(Movimientos, ALabelIsHeldWhereItIsPressedAndDroppedBesideEverything) {
+    Clic({20, 100});
+    Sucesos();
+    Arrastra({{28, 104}, {30, 104}, {40, 84}, {48, 94}});
+    EXPECT_EQ(Sucesos(), "MouseDown; Seleccionado 1; Modificado 1; Click");
+    EXPECT_EQ(Cifra(Elem(1)->EtiquetaPosX()) + " " + Cifra(Elem(1)->EtiquetaPosY()), "26 -4");
+    EXPECT_TRUE(Elem(1)->EtiquetaMovida());
+    EXPECT_TRUE(esquema.bHabidoCambios());
+    const struct {
+        PuntoXY hasta;
+        const char* aviso;
+    } filas[] = {{{102, 98}, "Elementos superpuestos"},
+                 {{22, 98}, "La etiqueta del elemento se superpone al centro del mismo"},
+                 {{92, 106}, "Superposición de etiqueta y elemento"}};
+    for (const auto& [hasta, aviso] : filas) {
+        dialogos.Espera(aviso);
+        Arrastra({{48, 94}, {50, 90}, hasta});
+        EXPECT_EQ(Sucesos(), "MouseDown; Seleccionado 1; Click");
+        EXPECT_EQ(Cifra(Elem(1)->EtiquetaPosX()), "26");
+        EXPECT_EQ(Imagen(), RecienPintada());
+    }
+}
+
+TEST_F(Movimientos, TheInnerPointsOfATraceAreMovedOneAfterTheOther) {
+    Clic({40, 80});
+    Orden("menuContextualNodosConduccion");
+    EXPECT_EQ(Prompt(), "Escoja el punto que desea mover");
+    Mueve({60, 80});
+    EXPECT_EQ(Panel()->cursor().shape(), Qt::BitmapCursor);
+    Mueve({97, 63});
+    EXPECT_EQ(Panel()->cursor().shape(), Qt::ArrowCursor) << "the last point belongs to the node";
+    Sucesos();
+    Arrastra({{60, 80}, {62, 80}, {62, 90}});
+    EXPECT_EQ(Sucesos(), "MouseDown; Modificado 5; Click");
+    EXPECT_EQ(Traza_(5), "20,96 20,80 62,90 " + Contorno({100, 60}, {62, 90}));
+    const struct {
+        PuntoXY hasta;
+        const char* aviso;
+    } filas[] = {{{100, 100}, "Elementos superpuestos"},
+                 {{22, 81}, "Puntos superpuestos"},
+                 {{20, 88}, "Superposición de los segmentos de la conducción"}};
+    for (const auto& [hasta, aviso] : filas) {
+        dialogos.Espera(aviso);
+        const std::string antes = Traza_(5);
+        Arrastra({{62, 90}, {70, 90}, hasta});
+        EXPECT_EQ(Traza_(5), antes);
+        EXPECT_EQ(Imagen(), Imagen());
+    }
+    Clic({62, 90}, Qt::RightButton);
+    EXPECT_EQ(Prompt(), "L5");
+    EXPECT_EQ(Imagen(), RecienPintada());
+    EXPECT_EQ(Elem(5)->Trazado()->Valor(), 0);
+
+    Clic({100, 40});
+    Orden("menuContextualNodosConduccion");
+    Arrastra({{100, 20}, {100, 22}, {110, 10}});
+    EXPECT_EQ(Traza2_(6), Contorno({60, 20}, {110, 10}) + " 110,10 " + Contorno({100, 60}, {110, 10}))
+        << "a plant's second trace";
+    Clic({140, 120});
+    EXPECT_EQ(Prompt(), "L6");
+}
+
+TEST_F(Movimientos, ADoubleClickEdits) {
+    Clic({100, 60});
+    Sucesos();
+    QTest::mouseDClick(Panel(), Qt::LeftButton, {}, En({100, 60}));
+    EXPECT_EQ(Sucesos(), "MouseDown; Seleccionado 3; Click; DblClick; Editar 3");
+    Clic({140, 120});
+    Sucesos();
+    dialogos.Espera("Para editar las propiedades de un elemento haga doble clic sobre él");
+    QTest::mouseDClick(Panel(), Qt::LeftButton, {}, En({140, 120}));
+    EXPECT_EQ(Sucesos(), "MouseDown; Click; DblClick");
+}
+
+TEST_F(Movimientos, TheHandlersGoOnWithWhatTheHostHasLeft) {
+    alPulsar = [](qint16&, qint16&, float& x, float& y) { x = 100, y = 60; };
+    Clic({20, 100});
+    EXPECT_EQ(esquema.CodigoElemento(), 3);
+    alPulsar = [&](qint16&, qint16&, float& x, float&) {
+        EXPECT_EQ(x, -3999);
+        x = std::numeric_limits<float>::quiet_NaN();
+    };
+    esquema.ScaleLeft(-10000);
+    Clic({20, 100});
+    alPulsar = {};
+    Pon(esquema.GetElementos());
+    alAnotar = [this](const std::string& suceso) {
+        if (suceso == "Seleccionado 1") esquema.BorrarElemento();
+    };
+    Arrastra({{20, 100}, {30, 100}, {40, 100}});
+    EXPECT_EQ(Elem(1), nullptr);
+    SeleccionaYArrastra({{100, 100}, {101, 100}, {100, 120}});
+    EXPECT_EQ(Traza_(4), "24,100 " + Contorno({100, 120}, {24, 100})) << "a far end that is missing stays";
+}
+
+}  // namespace
+}  // namespace zel::pruebas
