@@ -156,7 +156,7 @@ TEST_F(Movimientos, ALabelIsHeldWhereItIsPressedAndDroppedBesideEverything) {
         const char* aviso;
     } filas[] = {{{102, 98}, "Elementos superpuestos"},
                  {{22, 98}, "La etiqueta del elemento se superpone al centro del mismo"},
-                 {{92, 106}, "Superposición de etiqueta y elemento"}};
+                 {{95, 105}, "Superposición de etiqueta y elemento"}};
     for (const auto& [hasta, aviso] : filas) {
         dialogos.Espera(aviso);
         Arrastra({{48, 94}, {50, 90}, hasta});
