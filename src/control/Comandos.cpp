@@ -174,6 +174,12 @@ void Comandos::ArchivoGuardar(const std::string& archNombre) try {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrArchivoGuardar (Esquema)");
 }
 
+void Comandos::Exporta(const std::string& archNombre, const std::shared_ptr<Elementos>& elementos) {
+    ExigeLibre();
+    ApartaSinLeer(archNombre);
+    GuardaConSeguridad(archNombre, elementos, std::nullopt, documento_.bMostrarLineasOcultas);
+}
+
 // A file that could not be read may still be worth something to who can mend it: it is kept beside the new
 // one before that takes its place.
 void Comandos::ApartaSinLeer(const std::string& archNombre) {

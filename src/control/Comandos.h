@@ -26,6 +26,8 @@ class Comandos {
 
     void ArchivoAbrir(const std::string& archNombre);
     void ArchivoGuardar(const std::string& archNombre);
+    // Some elements as a schematic of their own, without the picture; the document stays as it is.
+    void Exporta(const std::string& archNombre, const std::shared_ptr<Elementos>& elementos);
     void AddElemento(const Elemento& elem);
     bool ModificaVarios_NumUser(std::span<const std::int32_t> aiCodSig, std::span<const std::int32_t> aiNums);
     bool ModificaVarios_Nombres(std::span<const std::int32_t> aiCodGIS, std::span<const std::string> asNoms);

@@ -67,6 +67,7 @@ Esquema::~Esquema() {
     partes_->trabajo = {};
     partes_->trabajo.bTerminado = true;
     partes_->documento.colElementos.reset();
+    partes_->menu.Suelta();
     const QWidgetList partes = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
     for (auto* parte : partes)
         parte->disconnect(this);

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <cmath>
 
+#include "model/modErrorHandling.h"
 #include "platform/Numeros.h"
 #include "platform/qt/ImagenQt.h"
 
@@ -171,12 +172,14 @@ void ImagenFondo::Edita() {
     refresco_.RefrescarSiPendiente();
 }
 
-void ImagenFondo::Quita() {
+void ImagenFondo::Quita() try {
     refresco_.AnularRefresco();
     bHayImagenFondo_ = false;
     estados_.Estado(E_PREPARADO, 1);
-    refresco_.RefrescarSiPendiente();
     documento_.bHabidoCambios = true;
+    refresco_.RefrescarSiPendiente();
+} catch (...) {
+    LanzaErrorVisor(trabajo_.iEstado, ". menuVisorQuitarImagen_Click (Esquema)");
 }
 
 bool ImagenFondo::CajasValidas() {

@@ -1,11 +1,11 @@
 #include "control/PartesDelEsquema.h"
 
 #include <QAbstractButton>
-#include <QAction>
 #include <QCoreApplication>
 #include <cmath>
 
 #include "control/CursoresQt.h"
+#include "editing/ConduccionesMovidas.h"
 #include "platform/Guardia.h"
 
 namespace zel {
@@ -62,7 +62,18 @@ Esquema::Partes::Partes(Esquema& dueno)
       imagen(&dueno, documento, trabajo, refresco, estados, *this, commonDialog1,
              [this] { pintado.PintaSinMarcas(); }),
       comandos(panel->lienzo(), documento, trabajo, refresco, vista, desplazamiento, estados, *this, imagen,
-               [] { QCoreApplication::processEvents(); }) {
+               [] { QCoreApplication::processEvents(); }),
+      apariencia(panel->lienzo(), documento, trabajo, refresco, vista, avisos, estados, *this,
+                 [this](const std::shared_ptr<Elemento>& elem) {
+                     RecortaConducciones(panel->lienzo(), conexiones, documento, trabajo, vista, elem);
+                 }),
+      comandosDeMenu(panel->lienzo(), documento, trabajo, refresco, vista, estados, *this, commonDialog1,
+                     [this](const std::string& ruta, const std::shared_ptr<Elementos>& elementos) {
+                         comandos.Exporta(ruta, elementos);
+                     }),
+      menu(
+          &dueno, [this] { return AspectoDelMenuAhora(); },
+          [this](ItemDeMenu item) { AlElegirEnElMenu(item); }) {
     line1->setFrameStyle(QFrame::HLine | QFrame::Plain);
     line2->setFrameStyle(QFrame::HLine | QFrame::Plain);
     line1->setForegroundRole(QPalette::Mid);
@@ -76,18 +87,7 @@ Esquema::Partes::Partes(Esquema& dueno)
     hScroll->setAccessibleName(QStringLiteral("Desplazamiento horizontal"));
     vScroll->setAccessibleName(QStringLiteral("Desplazamiento vertical"));
     esquema.setFocusProxy(panel);
-    CreaAcciones();
     Conecta();
-}
-
-void Esquema::Partes::CreaAcciones() {
-    const auto crea = [&](const char* nombre, const char* texto, auto accion) {
-        auto* orden = new QAction(QString::fromUtf8(texto), &esquema);
-        orden->setObjectName(QString::fromLatin1(nombre));
-        QObject::connect(orden, &QAction::triggered, &esquema, [this, accion] { EnEntrada(accion); });
-    };
-    crea("menuVisorImagen", "Editar imagen de fondo", [this] { imagen.Edita(); });
-    crea("menuVisorQuitarImagen", "Quitar imagen de fondo", [this] { imagen.Quita(); });
 }
 
 void Esquema::Partes::Conecta() {
@@ -111,7 +111,7 @@ void Esquema::Partes::Conecta() {
     ConectaRaton();
     ConectaBarras();
     for (auto* parte : esquema.findChildren<QWidget*>())
-        parte->installEventFilter(&esquema);
+        if (!parte->isWindow()) parte->installEventFilter(&esquema);  // not the menu, which has to close
 }
 
 void Esquema::Partes::ConectaRaton() {

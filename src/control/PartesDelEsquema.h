@@ -11,8 +11,11 @@
 #include "control/Disposicion.h"
 #include "control/Esquema.h"
 #include "control/ImagenFondo.h"
+#include "control/MenuDelEsquema.h"
 #include "control/PanelDibujo.h"
 #include "control/UnidadesDeEscala.h"
+#include "editing/Apariencia.h"
+#include "editing/ComandosDeMenu.h"
 #include "editing/EntradaPanel.h"
 #include "editing/Herramientas.h"
 #include "editing/Teclado.h"
@@ -107,7 +110,9 @@ struct Esquema::Partes : public Anfitrion {
     void Conecta();
     void ConectaBarras();
     void ConectaRaton();
-    void CreaAcciones();
+    AspectoDelMenu AspectoDelMenuAhora() const;
+    void AlElegirEnElMenu(ItemDeMenu item);
+    void EjecutaDelMenu(ItemDeMenu item);
 
     // The layout: the parts where they belong, the view to the panel's new size.
     void UserControl_Resize();
@@ -160,6 +165,9 @@ struct Esquema::Partes : public Anfitrion {
     EntradaPanel entrada;
     ImagenFondo imagen;
     Comandos comandos;
+    Apariencia apariencia;
+    ComandosDeMenu comandosDeMenu;
+    MenuDelEsquema menu;
 
     std::int16_t modoDeEscala = MODO_MILIMETROS;
     bool bAjustandoVentana = false;

@@ -1,6 +1,7 @@
 // The events that the editor raises, given to the host as signals.
 
 #include <QAbstractButton>
+#include <QCursor>
 
 #include "control/PartesDelEsquema.h"
 
@@ -63,6 +64,92 @@ void Esquema::Partes::HazClic(Barra barra, std::string_view clave) {
     if (boton) Emitido([&] { boton->click(); });
 }
 
-void Esquema::Partes::LanzaMenu() {}
+// --- The menu ---------------------------------------------------------------------------------------------
+
+void Esquema::Partes::LanzaMenu() try {
+    refresco.PedirRefresco();
+    menu.Abre(QCursor::pos());
+} catch (...) {
+    LanzaErrorVisor(trabajo.iEstado, ". ErrLanzaMenu (Esquema)");
+}
+
+AspectoDelMenu Esquema::Partes::AspectoDelMenuAhora() const {
+    SituacionDelMenu situacion;
+    const auto& e = trabajo.elemSeleccionado;
+    if (e && documento.colElementos->Contiene(e.get())) situacion.elemSeleccionado = e.get();
+    situacion.bSubsistema = trabajo.iEstado == E_SUBSISTEMA;
+    situacion.bHayImagenFondo = imagen.bHayImagenFondo();
+    situacion.bMostrarEtiquetas = documento.bMostrarEtiquetas;
+    situacion.bMostrarLineasOcultas = documento.bMostrarLineasOcultas;
+    return AspectoDelMenuEn(situacion);
+}
+
+// The platform has turned a mark over by itself: it follows what the command has made of it, and stays where
+// the command did nothing.
+void Esquema::Partes::AlElegirEnElMenu(ItemDeMenu item) {
+    const std::shared_ptr<Partes> vivas = esquema.partes_;
+    EnEntrada([&] { EjecutaDelMenu(item); });
+    if (!trabajo.bTerminado) menu.PonMarcas();
+}
+
+void Esquema::Partes::EjecutaDelMenu(ItemDeMenu item) {
+    using enum ItemDeMenu;
+    switch (item) {
+        case menuContextualSalirSeleccion:
+            return comandosDeMenu.menuContextualSalirSeleccion_Click();
+        case menuContextualSeleccionExportar:
+            return comandosDeMenu.menuContextualSeleccionExportar_Click();
+        case menuContextualEditarElemento:
+            return comandosDeMenu.menuContextualEditarElemento_Click();
+        case menuAdjuntar:
+            return comandosDeMenu.menuAdjuntar_Click();
+        case menuAdjuntarVer:
+            return comandosDeMenu.menuAdjuntarVer_Click();
+        case menuContextualColorIcono:
+            return apariencia.menuContextualColorIcono_Click();
+        case menuContextualColorLinea:
+            return apariencia.menuContextualColorLinea_Click();
+        case menuContextualTamanyo:
+            return apariencia.menuContextualTamanyo_Click();
+        case menuContextualNodosConduccion:
+            return comandosDeMenu.menuContextualNodosConduccion_Click();
+        case menuContextualMoverElemento:
+            return comandosDeMenu.menuContextualMoverElemento_Click();
+        case menuContextualMostrarEtiqueta:
+            return apariencia.menuContextualMostrarEtiqueta_Click();
+        case menuContextualMoverEtiqueta:
+            return comandosDeMenu.menuContextualMoverEtiqueta_Click();
+        case menuContextualTamanyoEtiqueta:
+            return apariencia.menuContextualTamanyoEtiqueta_Click();
+        case menuContextualEtiquetaPegajosa:
+            return apariencia.menuContextualEtiquetaPegajosa_Click();
+        case menuContextualEtiquetaTamanyoRelativo:
+            return apariencia.menuContextualEtiquetaTamanyoRelativo_Click();
+        case menuVisorSubSistema:
+            return comandosDeMenu.menuVisorSubSistema_Click();
+        case menuVisorImagen:
+            return imagen.Edita();
+        case menuVisorQuitarImagen:
+            return imagen.Quita();
+        case menuVisorNoEtiquetas:
+            return comandosDeMenu.menuVisorNoEtiquetas_Click();
+        case menuVisorMostrarLineasOcultas:
+            return comandosDeMenu.menuVisorMostrarLineasOcultas_Click();
+        case menuVisorModifFtes:
+            return apariencia.menuVisorModifFtes_Click();
+        case menuVisorModifElems:
+            return apariencia.menuVisorModifElems_Click();
+        case menuContextual:
+        case menuAdjuntarArchivo:
+        case menuContextualColores:
+        case menuColoresSeparador:
+        case menuContextualEtiqueta:
+        case menuContextualEtiquetaSeparador:
+        case menuContextualSeparador:
+        case menuVisor:
+        case menuVisorModif:
+            return;
+    }
+}
 
 }  // namespace zel

@@ -114,6 +114,13 @@ std::string TextoDeNumero(std::int32_t valor) {
     return std::to_string(valor);
 }
 
+std::string TextoRedondeado(double valor) {
+    std::array<char, 32> memoria{};
+    const auto resultado =
+        std::to_chars(memoria.data(), memoria.data() + memoria.size(), valor, std::chars_format::general, 7);
+    return TextoDeNumero(NumeroInicial({memoria.data(), resultado.ptr}));
+}
+
 double NumeroInicial(std::string_view texto) {
     return Valor<double>(BuscaNumero(texto));
 }
@@ -132,7 +139,12 @@ std::optional<double> NumeroDeUsuario(std::string_view texto) {
     std::string conPunto(texto);
     const std::size_t coma = conPunto.find(',');
     if (coma != std::string::npos) conPunto[coma] = '.';
-    return NumeroCompleto(conPunto);
+    try {
+        return NumeroCompleto(conPunto);
+    } catch (const Fallo&) {
+        constexpr double INFINITO = std::numeric_limits<double>::infinity();
+        return conPunto[conPunto.find_first_not_of(BLANCOS)] == '-' ? -INFINITO : INFINITO;
+    }
 }
 
 // The floating-point environment's rounding, to nearest and half to even, is never changed here.

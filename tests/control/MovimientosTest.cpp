@@ -156,7 +156,7 @@ TEST_F(Movimientos, ALabelIsHeldWhereItIsPressedAndDroppedBesideEverything) {
         const char* aviso;
     } filas[] = {{{102, 98}, "Elementos superpuestos"},
                  {{22, 98}, "La etiqueta del elemento se superpone al centro del mismo"},
-                 {{92, 106}, "Superposición de etiqueta y elemento"}};
+                 {{95, 105}, "Superposición de etiqueta y elemento"}};
     for (const auto& [hasta, aviso] : filas) {
         dialogos.Espera(aviso);
         Arrastra({{48, 94}, {50, 90}, hasta});
@@ -169,7 +169,7 @@ TEST_F(Movimientos, ALabelIsHeldWhereItIsPressedAndDroppedBesideEverything) {
 TEST_F(Movimientos, TheInnerPointsOfATraceAreMovedOneAfterTheOther) {
     Clic({40, 80});
     Orden("menuContextualNodosConduccion");
-    EXPECT_EQ(Prompt(), "Escoja el punto que desea mover");
+    EXPECT_EQ(Prompt(), "Escoja un nodo de la conducción");
     Mueve({60, 80});
     EXPECT_EQ(Panel()->cursor().shape(), Qt::BitmapCursor);
     Mueve({97, 63});
@@ -207,11 +207,9 @@ TEST_F(Movimientos, TheInnerPointsOfATraceAreMovedOneAfterTheOther) {
 
 TEST_F(Movimientos, ADoubleClickEdits) {
     Clic({100, 60});
-    Sucesos();
     QTest::mouseDClick(Panel(), Qt::LeftButton, {}, En({100, 60}));
     EXPECT_EQ(Sucesos(), "MouseDown; Seleccionado 3; Click; DblClick; Editar 3");
     Clic({140, 120});
-    Sucesos();
     dialogos.Espera("Para editar las propiedades de un elemento haga doble clic sobre él");
     QTest::mouseDClick(Panel(), Qt::LeftButton, {}, En({140, 120}));
     EXPECT_EQ(Sucesos(), "MouseDown; Click; DblClick");

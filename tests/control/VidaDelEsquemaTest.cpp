@@ -35,7 +35,7 @@ TEST_F(HostQueDestruye, InASlot) {
     esquema->GetElementos(DosNudos());
     esquema->Seleccionar(1);
     QObject::connect(esquema.get(), &Esquema::PeticionBorrado, destruye);
-    QTest::mouseClick(Parte("borrar"), Qt::LeftButton);
+    QTest::keyClick(Parte("Panel"), Qt::Key_Delete);
     EXPECT_EQ(esquema, nullptr);
     EXPECT_EQ(errores, 0);
 }

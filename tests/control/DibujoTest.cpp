@@ -1,0 +1,161 @@
+// Drawing a basin with the mouse, from file to file, and choosing parts of it.
+#include "control/ConRaton.h"
+
+namespace zel::pruebas {
+namespace {
+
+class Dibujo_ : public ConRaton {
+  protected:
+    void Herramienta(const char* clave) { ConRaton::EnVentana::Pulsa(clave); }
+    // Name, number, ends and trace of each element.
+    std::string Esquema_() const {
+        std::string texto;
+        for (const auto& e : *esquema.GetElementos()) {
+            texto += e->Nombre() + " [" + std::to_string(e->gfCodSIG()) + "] " + Cifra(e->XPos()) + "," +
+                     Cifra(e->YPos()) + " " + std::to_string(e->ElemIni()) + "-" +
+                     std::to_string(e->ElemFin()) + " " + Relato(e->Trazado()) + " | " +
+                     Relato(e->Trazado2()) + "\n";
+        }
+        return texto;
+    }
+};
+
+TEST_F(Dibujo_, ABasinOfAllKindsIsDrawnMovedSavedAndFoundAgain) {
+    const std::string vacio = (carpeta / "vacio.xml").string(), lleno = (carpeta / "lleno.xml").string();
+    esquema.ArchivoGuardar(QString::fromStdString(vacio));
+    esquema.ArchivoAbrir(QString::fromStdString(vacio));
+    Pon(esquema.GetElementos());
+    Herramienta("nudo");
+    EXPECT_EQ(Prompt(), "Escoja el emplazamiento del nuevo elemento");
+    Clic({20, 120});
+    EXPECT_EQ(Sucesos(), "MouseDown; Seleccionado 1; Creado 0 0-0; Click");
+    Clic({100, 120});
+    Herramienta("embalse");
+    Clic({100, 60});
+    Herramienta("demanda");
+    Clic({20, 20});
+    Herramienta("acuifero");
+    Clic({160, 20});
+    const std::pair<const char*, Vertices> lineales[] = {{"conduccion1", {{20, 120}, {100, 120}}},
+                                                         {"conduccion2", {{100, 120}, {110, 90}, {100, 60}}},
+                                                         {"conduccion3", {{20, 120}, {30, 70}, {100, 60}}},
+                                                         {"conduccion4", {{20, 120}, {60, 110}, {100, 120}}},
+                                                         {"conduccion5", {{100, 60}, {90, 90}, {100, 120}}},
+                                                         {"recarga", {{100, 60}, {160, 20}}},
+                                                         {"bombeo", {{160, 20}, {130, 110}, {100, 120}}},
+                                                         {"toma", {{100, 60}, {20, 20}}}};
+    for (const auto& [clave, puntos] : lineales) {
+        Herramienta(clave);
+        for (const PuntoXY& p : puntos)
+            Clic(p);
+    }
+    Herramienta("centralHE");
+    Clic({20, 120});
+    Clic({5, 80});
+    Clic({60, 40}, Qt::RightButton);
+    Clic({100, 60});
+    Herramienta("aportacion");
+    Clic({100, 120});
+    Clic({140, 130}, Qt::RightButton);
+    Herramienta("retorno");
+    Clic({100, 60});
+    Clic({150, 70}, Qt::RightButton);
+    Herramienta("subcuenca");
+    Clic({140, 130});
+    Sucesos();
+    Clic({170, 130}, Qt::RightButton);
+    EXPECT_EQ(Sucesos(), "MouseDown; Seleccionado 17; Creado 15 17-15; Click");
+    Herramienta("flecha");
+    EXPECT_EQ(Esquema_(), "");
+    SeleccionaYArrastra({{20, 120}, {20, 119}, {20, 100}});
+    EXPECT_EQ(Sucesos(), "MouseDown; Seleccionado 1; Movido 1; Click");
+    EXPECT_EQ(esquema.GetElementos()->VerificaIntegridad(), 0);
+    EXPECT_TRUE(esquema.bHabidoCambios());
+    esquema.ArchivoGuardar(QString::fromStdString(lleno));
+    const std::string antes = Esquema_();
+    esquema.ArchivoAbrir(QString::fromStdString(lleno));
+    EXPECT_EQ(Esquema_(), antes);
+    EXPECT_FALSE(esquema.bHabidoCambios());
+}
+
+// Nodes 1 to 4 at the corners of a square, a conduit 5 above, 6 at its left.
+class Subsistemas : public Dibujo_ {
+  protected:
+    Subsistemas() {
+        auto todos = std::make_shared<Elementos>();
+        const PuntoXY esquinas[] = {{40, 100}, {100, 100}, {40, 40}, {100, 40}};
+        for (const PuntoXY& p : esquinas) {
+            const auto c = static_cast<std::int16_t>(todos->Count() + 1);
+            todos->Add(ctNudo, "N", c, c, p.X, p.Y, 0, 0, nullptr, nullptr, "x", 6, 6);
+        }
+        todos->Add(ctToma, "T", 5, 1, 70, 100, 1, 2, Traza({{44, 100}, {96, 100}}), nullptr, "x", 1, 1);
+        todos->Add(ctRecarga, "R", 6, 1, 40, 70, 1, 3, Traza({{40, 96}, {40, 44}}), nullptr, "x", 1, 1);
+        Pon(todos);
+    }
+    // The codes of an exported subsystem, which is what is selected.
+    std::string Elegidos() {
+        const std::string ruta = (carpeta / "parte.xml").string();
+        dialogos.ResponderArchivo(ruta);
+        Orden("menuContextualSeleccionExportar");
+        Esquema otro;
+        otro.ArchivoAbrir(QString::fromStdString(ruta));
+        std::string codigos;
+        for (const auto& e : *otro.GetElementos())
+            codigos += (codigos.empty() ? "" : " ") + std::to_string(e->gfCodSIG());
+        return codigos;
+    }
+    const char* const ELEGIDO = "Subsistema";
+};
+
+TEST_F(Subsistemas, ALassoTakesTheSymbolsInsideItAndTheConduitsBetweenThem) {
+    Orden("menuVisorSubSistema");
+    Pulsa({30, 110});
+    for (const PuntoXY p : {PuntoXY{120, 110}, {120, 90}, {60, 88}})
+        Mueve(p);
+    EXPECT_EQ(ColorEn(90, 110), QColor(Qt::blue));
+    Suelta({30, 90});
+    EXPECT_EQ(Elegidos(), "1 2 5") << "not the half of the recharge";
+    Orden("menuContextualSalirSeleccion");
+    EXPECT_EQ(Prompt(), "Preparado");
+    EXPECT_EQ(Imagen(), RecienPintada());
+}
+
+TEST_F(Subsistemas, ARectangleBeginsBesideTheElementsAndAnEmptyOneIsNone) {
+    Arrastra({{25, 115}, {26, 114}, {60, 30}});
+    EXPECT_EQ(Elegidos(), "1 3 6");
+    Orden("menuContextualSalirSeleccion");
+    Arrastra({{60, 80}, {61, 80}, {80, 60}});
+    EXPECT_EQ(Prompt(), "Preparado");
+    EXPECT_EQ(Imagen(), RecienPintada());
+    // Given up, it does not begin again by itself.
+    Pulsa({60, 80});
+    Mueve({61, 80});
+    Mueve({80, 60});
+    esquema.Refresh();
+    const QImage antes = Imagen();
+    Mueve({90, 50});
+    Suelta({90, 50});
+    EXPECT_EQ(Imagen(), antes);
+    EXPECT_EQ(Prompt(), "Preparado");
+}
+
+TEST_F(Subsistemas, WithCtrlHeldElementsAreTakenOneByOne) {
+    Clic({40, 100});
+    QTest::keyPress(Panel(), Qt::Key_Control, Qt::ControlModifier);
+    Clic({100, 100});
+    Clic({70, 100});  // a conduit is not taken
+    Clic({40, 40});
+    Clic({40, 100});
+    Clic({40, 100});
+    QTest::keyRelease(Panel(), Qt::Key_Control);
+    EXPECT_EQ(Elegidos(), "2 3 1 5 6");
+    QTest::keyPress(Panel(), Qt::Key_Control, Qt::ControlModifier);
+    Clic({40, 100});
+    QTest::keyRelease(Panel(), Qt::Key_Control);
+    EXPECT_EQ(Elegidos(), "2 3") << "the conduits of the node that goes go with it";
+    QTest::keyClick(Panel(), Qt::Key_Escape);
+    EXPECT_EQ(Imagen(), RecienPintada());
+}
+
+}  // namespace
+}  // namespace zel::pruebas
