@@ -22,7 +22,6 @@ float MargenDeDibujo(Superficie& panel, const AjustesDibujo& ajustes) {
 
 // How far from its centre a symbol reaches, of its radius.
 constexpr float ALCANCE_DE_SIMBOLO = 1.2F;
-constexpr float TAMANYO_MAXIMO = 33;
 
 // Few elements are in sight when few of a sample are, one in that many. Then choosing them beforehand takes
 // less time than it saves.
@@ -73,7 +72,7 @@ bool ParteVisible::MuestraPocos(const Elementos& elementos) const {
 
 Recuadro ParteVisible::Region() const noexcept {
     const float unidad = std::max({ALCANCE_DE_SIMBOLO * TamanyoUnidad(), anchoDePixel, 0.0F});
-    return Recuadro::ConHolgura(visible, double{margen} + TAMANYO_MAXIMO * double{unidad});
+    return Recuadro::ConHolgura(visible, double{margen} + Elemento::TAMANYO_MAXIMO * double{unidad});
 }
 
 class Fallos {

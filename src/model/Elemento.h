@@ -51,6 +51,8 @@ class Elemento : public Objeto {
     void MostrarEtiqueta(bool valor) noexcept { Cambia(mostrarEtiqueta_, valor); }
     bool MostrarEtiqueta() const noexcept { return mostrarEtiqueta_; }
 
+    static constexpr float TAMANYO_MINIMO = 0.5F;
+    static constexpr float TAMANYO_MAXIMO = 33.0F;
     // Factor of the base symbol size; a value outside 0.5 .. 33 becomes the nearer bound. It is also the pen
     // width, in pixels, of conduits, recharges, pumpings and intakes.
     void Tamanyo(float valor) noexcept;
