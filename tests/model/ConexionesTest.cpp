@@ -10,10 +10,10 @@ TEST(Conexiones, AreThoseThatALookAtEveryElementFindsWhateverHasChanged) {
     RedAlAzar red(60, 1000);
     Conexiones conexiones;
     EXPECT_TRUE(conexiones.De(0).empty());
-    conexiones.Ata(red.elementos);
     int halladas = 0;
     for (int vez = 0; vez < 1500; ++vez) {
-        if (vez == 900) conexiones.Ata(red.elementos = RedAlAzar(90, 500).elementos);
+        if (vez == 900) red.Renueva(90);
+        conexiones.Ata(red.elementos);
         red.Cambia();
         if (red.Hasta(3) == 0) continue;  // several changes at once
         if (red.Hasta(20) == 0) red.elementos->Item(1)->gfCodSIG(red.Codigo());

@@ -22,12 +22,12 @@ TEST(ExtensionAlDia, IsTheExtensionToTheLastBitWhateverHasChanged) {
     int distintas = 0;
     std::array<float, 5> anterior{};
     for (int vez = 0; vez < 4000; ++vez) {
-        if (vez == 1500) red.elementos = RedAlAzar(300, 2000).elementos;
+        if (vez == 1500) red.Renueva(300);
         if (vez == 2500) TamanyoUnidad(3);
         while (vez == 3000 && red.elementos->Count() > 0)  // the tree shrinks, then grows again
             red.elementos->Remove(1);
         if (red.elementos->Count() > 0) red.Cambia();
-        if (vez == 3100) red.elementos = RedAlAzar(3, 100).elementos;
+        if (vez == 3100) red.Renueva(3);
         if (vez % 50 == 0 && red.elementos->Count() > 1) red.elementos->Remove(1);  // the first one
         const float margen = vez % 500 < 400 ? 2 : 4;
         const auto lados = Lados(alDia.De(red.elementos, margen));

@@ -10,12 +10,16 @@ namespace zel::pruebas {
 // A schematic that changes at random, the same way every time, values that are no sense included.
 class RedAlAzar {
   public:
-    RedAlAzar(int cuantos, float lado) : lado_(lado) {
+    RedAlAzar(int cuantos, float lado) : lado_(lado) { Renueva(cuantos); }
+
+    std::shared_ptr<Elementos> elementos;
+
+    // Another collection.
+    void Renueva(int cuantos) {
+        elementos = std::make_shared<Elementos>();
         while (elementos->Count() < cuantos)
             Agrega();
     }
-
-    std::shared_ptr<Elementos> elementos = std::make_shared<Elementos>();
 
     int Hasta(int n) { return static_cast<int>(azar_() % static_cast<unsigned>(n)); }
     float Coordenada() {
