@@ -36,7 +36,7 @@ TEST(ExtensionAlDia, IsTheExtensionToTheLastBitWhateverHasChanged) {
         anterior = lados;
     }
     TamanyoUnidad(unidad);
-    EXPECT_GT(distintas, 300);
+    EXPECT_GT(distintas, 100);
 }
 
 }  // namespace

@@ -48,7 +48,7 @@ class RedAlAzar {
             case 6:
                 return e.ConecSec1(Codigo());
             case 7:
-                return e.ConecSec2(-1);
+                return e.ConecSec2(Hasta(2) ? -1 : Codigo());
             case 8:
                 return e.EtiquetaPosX(Coordenada() - e.XPos());
             case 9:
@@ -80,7 +80,7 @@ class RedAlAzar {
     std::shared_ptr<Puntos> Nueva() {
         auto trazado = std::make_shared<Puntos>();
         const float x = Coordenada(), y = Coordenada();
-        for (int i = Hasta(4); i >= 0; --i)
+        for (int i = Hasta(20) ? 1 + Hasta(4) : 0; i >= 0; --i)
             trazado->Add(x + static_cast<float>(Hasta(90)), y + static_cast<float>(Hasta(90)));
         return trazado;
     }
@@ -89,6 +89,7 @@ class RedAlAzar {
         const auto e = elementos->Add(Tipo(), "Elemento " + std::to_string(codigo), codigo, 7, Coordenada(),
                                       Coordenada(), Codigo(), Codigo(), Nueva(), Nueva(), "id", 5, 4);
         if (Hasta(30) == 0) e->ConecSec1(Codigo());
+        if (Hasta(8) == 0) e->Tamanyo(30);
     }
 
     float lado_;
