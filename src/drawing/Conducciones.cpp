@@ -197,23 +197,30 @@ std::shared_ptr<Puntos> EncuadreConduccion(const Elemento& elemento, std::int32_
 }
 
 void DibujaLineasSecundarias(Superficie& panel, const AjustesDibujo& ajustes, const Elementos& elementos,
-                             const Elementos& colElementos) try {
+                             const Elementos& colElementos, IndiceDePintado* indice) try {
     if (!ajustes.bMostrarLineasOcultas) return;
     PreparaNegro(panel);
     const Marco visible = Marco::Visible(panel);
     bool incoherente = false;
-    for (const auto& e : elementos) {
-        for (const std::int32_t codigo : {e->ConecSec1(), e->ConecSec2()}) {
+    const auto dibuja = [&](const Elemento& e) {
+        for (const std::int32_t codigo : {e.ConecSec1(), e.ConecSec2()}) {
             if (codigo <= 0) continue;
             const auto t = elementos.ItemCodSIG(codigo);
             if (!t) {
                 incoherente = incoherente || !colElementos.ItemCodSIG(codigo);
                 continue;
             }
-            const PuntoXY p1 = PtoContorno(e->XPos(), e->YPos(), t->XPos(), t->YPos(), e->Tamanyo());
-            const PuntoXY p2 = PtoContorno(t->XPos(), t->YPos(), e->XPos(), e->YPos(), t->Tamanyo());
+            const PuntoXY p1 = PtoContorno(e.XPos(), e.YPos(), t->XPos(), t->YPos(), e.Tamanyo());
+            const PuntoXY p2 = PtoContorno(t->XPos(), t->YPos(), e.XPos(), e.YPos(), t->Tamanyo());
             if (SeVe(visible, p1, p2)) DibujaLinea(panel, ajustes, p1, p2, ctCentralHidroelectrica, true);
         }
+    };
+    if (indice) {
+        for (const Elemento* e : indice->ConSecundarias())
+            dibuja(*e);
+    } else {
+        for (const auto& e : elementos)
+            dibuja(*e);
     }
     if (incoherente) {
         LanzaErrorVisor(ajustes.iEstado, ". ErrDibujaLineasSecundarias: datos incoherentes (Esquema)");

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "drawing/AjustesDibujo.h"
+#include "drawing/IndiceDePintado.h"
 #include "model/Elementos.h"
 
 namespace zel {
@@ -43,8 +44,9 @@ std::shared_ptr<Puntos> EncuadreConduccion(const Elemento& elemento, std::int32_
 
 // Draws the secondary connections of the elements of a set, from outline to outline, in black. A connection
 // to an element outside the set is left out; one to a code that is in no collection is left out too, and
-// raises after the others have been drawn.
+// raises after the others have been drawn. With the index of the set, only the elements that have one are
+// looked at.
 void DibujaLineasSecundarias(Superficie& panel, const AjustesDibujo& ajustes, const Elementos& elementos,
-                             const Elementos& colElementos);
+                             const Elementos& colElementos, IndiceDePintado* indice = nullptr);
 
 }  // namespace zel

@@ -12,25 +12,30 @@ namespace zel {
 
 namespace {
 
+constexpr float PUNTOS_DE_REDONDEO = 2;  // that a font may grow by
+
 // What tells whether a label is in sight without setting its font and measuring it.
 struct Alcance {
     Alcance(Superficie& panel, const AjustesDibujo& ajustes) : visible(Marco::Visible(panel)) {
-        PonFuente(panel, ajustes.FactorFuente(panel), ajustes.iEstado);
+        const float factor = ajustes.FactorFuente(panel);
+        PonFuente(panel, factor, ajustes.iEstado);
         altoDePunto = -panel.TextHeight("0") / panel.FontSize();
+        alto = {double{altoDePunto} * factor, double{altoDePunto} * PUNTOS_DE_REDONDEO};
     }
 
     // A label hangs to the right of its anchor and below it, and no character is wider than the line is
     // high. Sizes are rounded by a point at most, two below one.
     bool SeVe(const std::string& nombre, float factor, float x, float y) const noexcept {
         if (x > visible.Xmax || y < visible.Ymin) return false;
-        const float alto = altoDePunto * (factor + 2);
-        if (x + static_cast<float>(nombre.size()) * alto < visible.Xmin) return false;
+        const float linea = altoDePunto * (factor + PUNTOS_DE_REDONDEO);
+        if (x + static_cast<float>(nombre.size()) * linea < visible.Xmin) return false;
         const auto lineas = 1 + std::count(nombre.begin(), nombre.end(), '\n');
-        return y - static_cast<float>(lineas) * alto <= visible.Ymax;
+        return y - static_cast<float>(lineas) * linea <= visible.Ymax;
     }
 
     Marco visible;
     float altoDePunto;  // world units that a line is high for each point of its font
+    AltoDeLetra alto;   // the most that a line is high
 };
 
 void DibujaEtiqueta(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e,
@@ -61,16 +66,20 @@ CajaEtiqueta MideEtiqueta(Superficie& panel, const AjustesDibujo& ajustes, const
 }
 
 void DibujaEtiquetas(Superficie& panel, const AjustesDibujo& ajustes, const Elementos& elementos,
-                     bool bSoloSeleccionado, const Elemento* elemSeleccionado) try {
+                     bool bSoloSeleccionado, const Elemento* elemSeleccionado, IndiceDePintado* indice) try {
     if (!ajustes.bMostrarEtiquetas) return;
     PreparaNegro(panel);
     const Alcance alcance(panel, ajustes);
     PartesDelDibujo etiquetas;
+    const auto dibuja = [&](const Elemento& e) { DibujaEtiqueta(panel, ajustes, e, alcance); };
     if (bSoloSeleccionado && elemSeleccionado) {
-        DibujaEtiqueta(panel, ajustes, *elemSeleccionado, alcance);
+        dibuja(*elemSeleccionado);
+    } else if (indice && alcance.alto.Vale()) {
+        for (const Elemento* e : indice->Etiquetas(Recuadro::ConHolgura(alcance.visible, 0), alcance.alto))
+            etiquetas.Dibuja([&] { dibuja(*e); });
     } else {
         for (const auto& e : elementos)
-            etiquetas.Dibuja([&] { DibujaEtiqueta(panel, ajustes, *e, alcance); });
+            etiquetas.Dibuja([&] { dibuja(*e); });
     }
     PonFuente(panel, ajustes.FactorFuente(panel), ajustes.iEstado);
     etiquetas.Termina();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "drawing/AjustesDibujo.h"
+#include "drawing/IndiceDePintado.h"
 #include "model/Elementos.h"
 
 namespace zel {
@@ -20,8 +21,9 @@ CajaEtiqueta MideEtiqueta(Superficie& panel, const AjustesDibujo& ajustes, const
                           float Y);
 
 // Prints the labels of a set of elements, in black; with bSoloSeleccionado, only the selected element's
-// when there is one.
+// when there is one. With the index of the set, only the labels that may be in sight are looked at.
 void DibujaEtiquetas(Superficie& panel, const AjustesDibujo& ajustes, const Elementos& elementos,
-                     bool bSoloSeleccionado, const Elemento* elemSeleccionado = nullptr);
+                     bool bSoloSeleccionado, const Elemento* elemSeleccionado = nullptr,
+                     IndiceDePintado* indice = nullptr);
 
 }  // namespace zel

@@ -1,7 +1,5 @@
 #include "drawing/IndiceDeElementos.h"
 
-#include <unordered_map>
-
 #include "drawing/Etiquetas.h"
 
 namespace zel {
@@ -31,47 +29,28 @@ Recuadro RecuadroDeEtiqueta(Superficie& panel, const AjustesDibujo& ajustes, con
 }
 
 void IndiceDeElementos::Ata(const std::shared_ptr<Elementos>& elementos) noexcept {
-    if (elementos && elementos_.lock() == elementos) return;
-    elementos_ = elementos;
-    cuerpos_.leido = etiquetas_.leido = 0;
+    cuerpos_.lector.Ata(elementos);
+    etiquetas_.lector.Ata(elementos);
 }
 
 std::shared_ptr<Elemento> IndiceDeElementos::Referencia(const Elemento* elemento) const noexcept {
-    const auto elementos = elementos_.lock();
+    const auto elementos = cuerpos_.lector.Atada();
     return elementos ? elementos->Referencia(elemento) : nullptr;
 }
 
-// Should measuring fail, the next time begins anew.
 template <typename Mide>
 void IndiceDeElementos::PonAlDia(Capa& capa, Mide mide) {
-    const auto elementos = elementos_.lock();
-    if (!elementos) {
-        capa.rejilla.Vacia();
-        return;
-    }
-    std::uint64_t leido = capa.leido;
-    const auto cambios = elementos->Diario().Lee(leido);
-    if (cambios && cambios->empty()) return;
-    capa.leido = 0;
-    if (cambios) {
-        // Only what an element has come to counts, and only then is it known to exist.
-        std::unordered_map<const Elemento*, bool> quitados;
-        for (const auto& cambio : *cambios)
-            quitados[cambio.elemento] = cambio.Quitado;
-        for (const auto& [elemento, quitado] : quitados) {
-            if (quitado) {
-                capa.rejilla.Quita(elemento);
-            } else {
-                capa.rejilla.Pon(*elemento, mide(*elemento));
-            }
-        }
-    } else {
-        capa.rejilla.Vacia();
-        capa.rejilla.Reserva(static_cast<std::size_t>(elementos->Count()));
-        for (const auto& elemento : *elementos)
-            capa.rejilla.Pon(*elemento, mide(*elemento));
-    }
-    capa.leido = leido;
+    capa.lector.PonAlDia(
+        [&](std::size_t elementos) {
+            capa.rejilla.Vacia();
+            capa.rejilla.Reserva(elementos);
+        },
+        [&](const DiarioDeCambios::Cambio& cambio) {
+            if (cambio.Quitado)
+                capa.rejilla.Quita(cambio.elemento);
+            else
+                capa.rejilla.Pon(*cambio.elemento, mide(*cambio.elemento));
+        });
 }
 
 void IndiceDeElementos::PonCuerposAlDia() {
@@ -92,7 +71,7 @@ IndiceDeElementos::Medida IndiceDeElementos::MedidaDe(Superficie& panel, const A
 
 void IndiceDeElementos::PonEtiquetasAlDia(Superficie& panel, const AjustesDibujo& ajustes) {
     const Medida medida = MedidaDe(panel, ajustes);
-    if (medida_ != medida) etiquetas_.leido = 0;
+    if (medida_ != medida) etiquetas_.lector.Olvida();
     medida_ = medida;
     PonAlDia(etiquetas_, [&](const Elemento& e) { return RecuadroDeEtiqueta(panel, ajustes, e); });
 }

@@ -6,7 +6,7 @@
 
 #include "drawing/AjustesDibujo.h"
 #include "drawing/RejillaEspacial.h"
-#include "model/Elementos.h"
+#include "model/LectorDeCambios.h"
 
 namespace zel {
 
@@ -46,7 +46,7 @@ class IndiceDeElementos {
   private:
     struct Capa {
         RejillaEspacial rejilla;
-        std::uint64_t leido = 0;  // the journal's number up to which it is known
+        LectorDeCambios lector;
     };
     // All that the size of a label depends on, besides the element.
     struct Medida {
@@ -57,11 +57,10 @@ class IndiceDeElementos {
 
     static Medida MedidaDe(Superficie& panel, const AjustesDibujo& ajustes);
     template <typename Mide>
-    void PonAlDia(Capa& capa, Mide mide);
+    static void PonAlDia(Capa& capa, Mide mide);
     void PonCuerposAlDia();
     void PonEtiquetasAlDia(Superficie& panel, const AjustesDibujo& ajustes);
 
-    std::weak_ptr<Elementos> elementos_;
     Capa cuerpos_;
     Capa etiquetas_;
     std::optional<Medida> medida_;

@@ -34,6 +34,13 @@ struct Marco {
             Crece(punto->XPos(), punto->YPos(), margen);
     }
 
+    void Crece(const Marco& otro) noexcept {
+        Xmin = std::min(Xmin, otro.Xmin);
+        Xmax = std::max(Xmax, otro.Xmax);
+        Ymin = std::min(Ymin, otro.Ymin);
+        Ymax = std::max(Ymax, otro.Ymax);
+    }
+
     bool Contiene(const Marco& otro) const noexcept {
         return Xmin <= otro.Xmin && otro.Xmax <= Xmax && Ymin <= otro.Ymin && otro.Ymax <= Ymax;
     }

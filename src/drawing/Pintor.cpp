@@ -20,10 +20,30 @@ float MargenDeDibujo(Superficie& panel, const AjustesDibujo& ajustes) {
     return TamanyoUnidad() + 1.5F * panel.TextWidth("-32768") + std::abs(panel.TextHeight("0"));
 }
 
-bool CabeDibujar(const Elemento& e, const Marco& visible, float margen, float anchoDePixel) {
+// How far from its centre a symbol reaches, of its radius.
+constexpr float ALCANCE_DE_SIMBOLO = 1.2F;
+
+// Few elements are in sight when few of a sample are, one in that many. Then choosing them beforehand takes
+// less time than it saves.
+constexpr std::int32_t MUESTRA = 64;
+constexpr std::int32_t UNO_DE_CADA = 16;
+
+struct ParteVisible {
+    Marco visible;
+    float margen = 0;
+    float anchoDePixel = 0;
+
+    bool CabeDibujar(const Elemento& e) const;
+    bool MuestraPocos(const Elementos& elementos) const;
+    // Whatever is to be drawn has its centre or a trace here.
+    Recuadro Region() const noexcept;
+};
+
+bool ParteVisible::CabeDibujar(const Elemento& e) const {
     const TipoElemento tipo = e.Tipo();
     Marco marco;
-    if (TieneSimbolo(tipo)) marco.Crece(e.XPos(), e.YPos(), 1.2F * e.Tamanyo() * TamanyoUnidad() + margen);
+    if (TieneSimbolo(tipo))
+        marco.Crece(e.XPos(), e.YPos(), ALCANCE_DE_SIMBOLO * e.Tamanyo() * TamanyoUnidad() + margen);
     if (marco.Toca(visible) || !TipoConocido(tipo)) return true;
     if (!EsLineal(tipo)) return false;
     // A missing trace is drawn, that is, reported, wherever it would be.
@@ -37,6 +57,22 @@ bool CabeDibujar(const Elemento& e, const Marco& visible, float margen, float an
         trazados.Crece(*e.Trazado2(), deTrazado);
     }
     return trazados.Toca(visible);
+}
+
+bool ParteVisible::MuestraPocos(const Elementos& elementos) const {
+    if (elementos.Count() < MUESTRA * UNO_DE_CADA) return false;
+    const auto caben = [&](std::int32_t i) {
+        return CabeDibujar(**(elementos.begin() + std::int64_t{i} * elementos.Count() / MUESTRA));
+    };
+    std::int32_t vistos = 0;
+    for (std::int32_t i = 0; i < MUESTRA; ++i)
+        vistos += caben(i);
+    return vistos <= MUESTRA / UNO_DE_CADA;
+}
+
+Recuadro ParteVisible::Region() const noexcept {
+    const float unidad = std::max({ALCANCE_DE_SIMBOLO * TamanyoUnidad(), anchoDePixel, 0.0F});
+    return Recuadro::ConHolgura(visible, double{margen} + Elemento::TAMANYO_MAXIMO * double{unidad});
 }
 
 class Fallos {
@@ -66,7 +102,7 @@ class Fallos {
 
 std::vector<std::string> PintaEsquema(Superficie& panel, const AjustesDibujo& ajustes,
                                       const Elementos& elementos, const Elementos& colElementos,
-                                      const Fondo& fondo, const Marcas* marcas) {
+                                      const Fondo& fondo, const Marcas* marcas, IndiceDePintado* indice) {
     Fallos fallos;
     panel.DrawWidth(1);
     panel.Cls();
@@ -75,16 +111,21 @@ std::vector<std::string> PintaEsquema(Superficie& panel, const AjustesDibujo& aj
     if (fondo.imagen) {
         fallos.Ignora([&] { panel.PaintPicture(*fondo.imagen, fondo.esquina, fondo.ancho, fondo.alto); });
     }
-    const Marco visible = Marco::Visible(panel);
-    const float anchoDePixel = panel.AnchoDePixel();
-    float margen = 0;
-    fallos.Intenta([&] { margen = MargenDeDibujo(panel, ajustes); });
-    for (const auto& e : elementos) {
-        if (!CabeDibujar(*e, visible, margen, anchoDePixel)) continue;
-        fallos.Intenta([&] { DibujarElemento(panel, ajustes, e.get(), false); });
+    ParteVisible parte{Marco::Visible(panel), 0, panel.AnchoDePixel()};
+    fallos.Intenta([&] { parte.margen = MargenDeDibujo(panel, ajustes); });
+    if (indice && !parte.MuestraPocos(elementos)) indice = nullptr;
+    const auto dibuja = [&](const Elemento& e) {
+        if (parte.CabeDibujar(e)) fallos.Intenta([&] { DibujarElemento(panel, ajustes, &e, false); });
+    };
+    if (indice) {
+        for (const Elemento* e : indice->Cuerpos(parte.Region()))
+            dibuja(*e);
+    } else {
+        for (const auto& e : elementos)
+            dibuja(*e);
     }
-    fallos.Intenta([&] { DibujaEtiquetas(panel, ajustes, elementos, false); });
-    fallos.Intenta([&] { DibujaLineasSecundarias(panel, ajustes, elementos, colElementos); });
+    fallos.Intenta([&] { DibujaEtiquetas(panel, ajustes, elementos, false, nullptr, indice); });
+    fallos.Intenta([&] { DibujaLineasSecundarias(panel, ajustes, elementos, colElementos, indice); });
     if (marcas) {
         const PasoDePintado paso = [&](const std::function<void()>& accion) { fallos.Intenta(accion); };
         PintaResaltado(panel, ajustes, *marcas, paso);

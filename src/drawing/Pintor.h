@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "drawing/AjustesDibujo.h"
+#include "drawing/IndiceDePintado.h"
 #include "drawing/Marcas.h"
 #include "model/Elementos.h"
 
@@ -22,9 +23,10 @@ struct Fondo {
 // later ones over earlier ones, then the labels, the secondary lines and, when given, the marks of what the
 // user has in hand. `elementos` is the set to draw, `colElementos` the whole schematic. What cannot be drawn
 // stops nothing else; the descriptions of those failures come back, in order, except the picture's. Elements
-// out of sight cost no drawing.
+// out of sight cost no drawing; with the index of `elementos` they cost nothing where little is in sight.
 std::vector<std::string> PintaEsquema(Superficie& panel, const AjustesDibujo& ajustes,
                                       const Elementos& elementos, const Elementos& colElementos,
-                                      const Fondo& fondo = {}, const Marcas* marcas = nullptr);
+                                      const Fondo& fondo = {}, const Marcas* marcas = nullptr,
+                                      IndiceDePintado* indice = nullptr);
 
 }  // namespace zel

@@ -22,6 +22,13 @@ struct Recuadro {
     double Ymax = std::numeric_limits<double>::lowest();
 
     static Recuadro De(const Marco& m) noexcept { return {m.Xmin, m.Ymin, m.Xmax, m.Ymax}; }
+    // That much wider, and by what is lost where coordinates are rounded to 32 bits.
+    static Recuadro ConHolgura(const Marco& m, double margen) noexcept {
+        const double mayor = std::max({std::abs(double{m.Xmin}), std::abs(double{m.Xmax}),
+                                       std::abs(double{m.Ymin}), std::abs(double{m.Ymax}), margen});
+        const double holgura = margen + 1e-6 * mayor;
+        return {m.Xmin - holgura, m.Ymin - holgura, m.Xmax + holgura, m.Ymax + holgura};
+    }
     static Recuadro Alrededor(PuntoXY p, double margen) noexcept {
         return {p.X - margen, p.Y - margen, p.X + margen, p.Y + margen};
     }

@@ -262,15 +262,13 @@ void MaquinaEstados::BorrarVariablesEstado(bool bConservarSubsistema) try {
 }
 
 void MaquinaEstados::BorrarInfoExtra() try {
-    for (const auto& e : *documento_.colElementos) {
-        for (const auto& trazado : {e->Trazado(), e->Trazado2()}) {
-            if (!trazado) continue;
-            trazado->Valor(0);
-            trazado->Valor2(0);
-            trazado->Valor3(0);
-            trazado->Flecha(false);
-        }
-    }
+    marcas_.Ata(documento_.colElementos);
+    marcas_.PonAlDia([](std::size_t) {},
+                     [](const DiarioDeCambios::Cambio& cambio) {
+                         if (cambio.Quitado) return;
+                         if (const auto& trazado = cambio.elemento->Trazado()) trazado->BorraMarcas();
+                         if (const auto& trazado2 = cambio.elemento->Trazado2()) trazado2->BorraMarcas();
+                     });
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrBorrarInfoExtra (Esquema)");
 }

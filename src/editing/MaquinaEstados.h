@@ -6,6 +6,7 @@
 
 #include "editing/Estados.h"
 #include "model/Conexiones.h"
+#include "model/LectorDeCambios.h"
 #include "session/Anfitrion.h"
 #include "session/Documento.h"
 #include "session/Refresco.h"
@@ -28,7 +29,7 @@ class MaquinaEstados {
 
     // Drops the objects of a gesture; the subsystem and its lasso too unless it is to be kept.
     void BorrarVariablesEstado(bool bConservarSubsistema);
-    // Clears the temporary marks in every trace of the schematic.
+    // Clears the temporary marks in every trace of the schematic, at the cost of what has changed since.
     void BorrarInfoExtra();
 
     // Brings the bars into line with the state. Of the view tools, `sClave` tells which of the two zooms.
@@ -76,6 +77,7 @@ class MaquinaEstados {
     Vista& vista_;
     Conexiones& conexiones_;
     Anfitrion& anfitrion_;
+    LectorDeCambios marcas_;  // whoever has not changed since it last read has none
 };
 
 }  // namespace zel

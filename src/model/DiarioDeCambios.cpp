@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "model/Elemento.h"
+
 namespace zel {
 
 namespace {
@@ -35,7 +37,7 @@ void DiarioDeCambios::Anota(const Elemento& elemento, bool quitado) noexcept {
         return;
     }
     try {
-        cambios_.push_back({&elemento, quitado});
+        cambios_.push_back({&elemento, elemento.Orden(), quitado});
     } catch (...) {
         Pierde();
     }

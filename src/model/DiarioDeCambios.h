@@ -9,14 +9,16 @@ namespace zel {
 
 class Elemento;
 
-// The changes of place, shape or label of a collection's elements, whoever made them, for those who keep
-// something worked out from all of the elements, an index for instance, and want to follow at the cost of
-// what has changed. Changes are numbered; a reader keeps the number up to which it has read. Nothing is
-// kept as long as nobody reads, nor more than there are elements: from then on, beginning anew is cheaper.
+// The changes of place, shape, label, connections or temporary marks of a collection's elements, whoever
+// made them, for those who keep something worked out from all of the elements, an index for instance, and
+// want to follow at the cost of what has changed; they read it with a LectorDeCambios. Changes are numbered;
+// a reader keeps the number up to which it has read. Nothing is kept as long as nobody reads, nor more than
+// there are elements: from then on, beginning anew is cheaper.
 class DiarioDeCambios {
   public:
     struct Cambio {
         const Elemento* elemento;  // of use as a name only, unless it is known to be still in the collection
+        std::uint64_t Orden;       // its place in the collection, see Elemento
         bool Quitado;              // otherwise it is new or has changed
     };
 

@@ -6,8 +6,6 @@ namespace zel {
 
 namespace {
 
-constexpr float TAMANYO_MINIMO = 0.5F;
-constexpr float TAMANYO_MAXIMO = 33.0F;
 constexpr float ETIQUETA_MINIMA = 0.0002F;
 constexpr float ETIQUETA_MAXIMA = 4320.0F;
 

@@ -15,8 +15,8 @@ namespace zel {
 // to an end element along a trace (linear kinds). Positions and label offsets are world units; colours are
 // red + 256 green + 65536 blue, -1 being the kind's default; texts are UTF-8.
 //
-// An element of a collection notes its changes of place, shape and label in the collection's journal. A copy
-// of it belongs to no collection; what is to become equal to another takes CopiaPropiedades.
+// An element of a collection notes its changes of place, shape, label and connections in the collection's
+// journal. A copy of it belongs to no collection; what is to become equal to another takes CopiaPropiedades.
 class Elemento : public Objeto {
   public:
     Elemento();
@@ -31,9 +31,9 @@ class Elemento : public Objeto {
     void CopiaPropiedades(const Elemento& Origen);
 
     // gfCodSIG of the element at the far end of a secondary connection; -1 = none.
-    void ConecSec1(std::int32_t valor) noexcept { conecSec1_ = valor; }
+    void ConecSec1(std::int32_t valor) noexcept { Cambia(conecSec1_, valor); }
     std::int32_t ConecSec1() const noexcept { return conecSec1_; }
-    void ConecSec2(std::int32_t valor) noexcept { conecSec2_ = valor; }
+    void ConecSec2(std::int32_t valor) noexcept { Cambia(conecSec2_, valor); }
     std::int32_t ConecSec2() const noexcept { return conecSec2_; }
 
     // The label grows with the element's size.
@@ -51,6 +51,8 @@ class Elemento : public Objeto {
     void MostrarEtiqueta(bool valor) noexcept { Cambia(mostrarEtiqueta_, valor); }
     bool MostrarEtiqueta() const noexcept { return mostrarEtiqueta_; }
 
+    static constexpr float TAMANYO_MINIMO = 0.5F;
+    static constexpr float TAMANYO_MAXIMO = 33.0F;
     // Factor of the base symbol size; a value outside 0.5 .. 33 becomes the nearer bound. It is also the pen
     // width, in pixels, of conduits, recharges, pumpings and intakes.
     void Tamanyo(float valor) noexcept;
@@ -81,9 +83,9 @@ class Elemento : public Objeto {
     const std::shared_ptr<Puntos>& Trazado2() const noexcept { return trazado2_; }
 
     // gfCodSIG of the start and end elements; 0 = none.
-    void ElemIni(std::int32_t valor) noexcept { elemIni_ = valor; }
+    void ElemIni(std::int32_t valor) noexcept { Cambia(elemIni_, valor); }
     std::int32_t ElemIni() const noexcept { return elemIni_; }
-    void ElemFin(std::int32_t valor) noexcept { elemFin_ = valor; }
+    void ElemFin(std::int32_t valor) noexcept { Cambia(elemFin_, valor); }
     std::int32_t ElemFin() const noexcept { return elemFin_; }
 
     // The unique code, by which the element collection knows the element.

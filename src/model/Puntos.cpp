@@ -32,6 +32,13 @@ Puntos::~Puntos() {
         punto->trazado_ = nullptr;
 }
 
+void Puntos::BorraMarcas() noexcept {
+    Flecha(false);
+    Valor(0);
+    Valor2(0);
+    Valor3(0);
+}
+
 void UsoDeTrazado::Empieza(Puntos* trazado, const Elemento& elemento) noexcept {
     if (!trazado) return;
     elemento_ = &elemento;

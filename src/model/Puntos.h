@@ -43,15 +43,16 @@ class Puntos : public Objeto {
     ~Puntos() override;
 
     // Working attributes of the trace while it is edited; the model gives them no meaning and files do not
-    // store them.
-    void Flecha(bool valor) noexcept { flecha_ = valor; }
+    // store them. BorraMarcas makes them all false or 0.
+    void Flecha(bool valor) noexcept { Marca(flecha_, valor); }
     bool Flecha() const noexcept { return flecha_; }
-    void Valor(float valor) noexcept { valor_ = valor; }
+    void Valor(float valor) noexcept { Marca(valor_, valor); }
     float Valor() const noexcept { return valor_; }
-    void Valor2(float valor) noexcept { valor2_ = valor; }
+    void Valor2(float valor) noexcept { Marca(valor2_, valor); }
     float Valor2() const noexcept { return valor2_; }
-    void Valor3(float valor) noexcept { valor3_ = valor; }
+    void Valor3(float valor) noexcept { Marca(valor3_, valor); }
     float Valor3() const noexcept { return valor3_; }
+    void BorraMarcas() noexcept;
 
     // Makes room for that many points at once.
     void Reserva(std::int32_t cuantos) { puntos_.Reserva(cuantos); }
@@ -80,6 +81,12 @@ class Puntos : public Objeto {
   private:
     friend class Punto;
     friend class UsoDeTrazado;
+    template <typename T>
+    void Marca(T& campo, T valor) noexcept {
+        const bool distinta = campo != valor;
+        campo = valor;
+        if (distinta) HaCambiado();
+    }
     void HaCambiado() const noexcept;
 
     UsoDeTrazado* usos_ = nullptr;

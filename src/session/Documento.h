@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "drawing/IndiceDeElementos.h"
 #include "model/Elementos.h"
 
 namespace zel {
@@ -11,6 +12,8 @@ namespace zel {
 // The schematic that is shown and edited.
 struct Documento {
     std::shared_ptr<Elementos> colElementos = std::make_shared<Elementos>();
+    // Where the elements are; whoever asks it ties it to them first.
+    mutable IndiceDeElementos indice;
     bool bMostrarLineasOcultas = true;
     bool bMostrarEtiquetas = true;
     bool bHabidoCambios = false;  // since it was last opened or saved

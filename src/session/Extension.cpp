@@ -28,13 +28,6 @@ bool TieneTrazado(const Elemento& e) noexcept {
     return TipoConocido(e.Tipo()) && EsLineal(e.Tipo());
 }
 
-void Crece(Marco& marco, const Elemento& e, float margen) {
-    if (TieneSimbolo(e.Tipo())) marco.Crece(e.XPos(), e.YPos(), e.Tamanyo() * TamanyoUnidad() + margen);
-    if (!TieneTrazado(e)) return;
-    marco.Crece(*e.Trazado(), margen);
-    if (e.Trazado2()) marco.Crece(*e.Trazado2(), margen);
-}
-
 // A unit at least between two bounds of the world, towards its inside.
 void DaUnidad(const Limites& mundo, float& minimo, float& maximo) noexcept {
     if (maximo - minimo >= 1) return;
@@ -47,15 +40,34 @@ void DaUnidad(const Limites& mundo, float& minimo, float& maximo) noexcept {
 }  // namespace
 
 std::optional<Marco> ExtensionDe(const Elementos& elementos, float margen) {
-    std::optional<Marco> marco;
+    Marco marco;
+    const Elemento* primero = nullptr;
     for (const auto& e : elementos) {
-        if (TieneTrazado(*e) && !e->Trazado()) continue;
-        if (!marco) marco.emplace().Crece(e->XPos(), e->YPos(), 0);
-        Crece(*marco, *e, margen);
+        const auto suyo = ExtensionDe(*e, margen);
+        if (!suyo) continue;
+        if (!primero) primero = e.get();
+        marco.Crece(*suyo);
     }
+    return ExtensionCompleta(marco, primero);
+}
+
+std::optional<Marco> ExtensionDe(const Elemento& e, float margen) {
+    Marco marco;
+    if (TieneTrazado(e)) {
+        if (!e.Trazado()) return std::nullopt;
+        marco.Crece(*e.Trazado(), margen);
+        if (e.Trazado2()) marco.Crece(*e.Trazado2(), margen);
+    }
+    if (TieneSimbolo(e.Tipo())) marco.Crece(e.XPos(), e.YPos(), e.Tamanyo() * TamanyoUnidad() + margen);
+    return marco;
+}
+
+std::optional<Marco> ExtensionCompleta(Marco marco, const Elemento* primero) {
+    if (!primero) return std::nullopt;
+    marco.Crece(primero->XPos(), primero->YPos(), 0);
     // Only elements of no kind, all in one place: some room around them all the same.
-    if (marco && marco->Xmin == marco->Xmax && marco->Ymin == marco->Ymax) {
-        marco->Crece(marco->Xmin, marco->Ymin, TamanyoUnidad());
+    if (marco.Xmin == marco.Xmax && marco.Ymin == marco.Ymax) {
+        marco.Crece(marco.Xmin, marco.Ymin, TamanyoUnidad());
     }
     return marco;
 }

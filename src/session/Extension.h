@@ -21,6 +21,10 @@ constexpr Marco MarcoDelMundo() noexcept {
 // The box that the elements take up, symbols and traces, each widened by the margin; labels do not count.
 // Elements that should have a trace and have none take no part. Nothing when no element takes part.
 std::optional<Marco> ExtensionDe(const Elementos& elementos, float margen);
+// What one element adds to it, for one of no kind an empty box; nothing when it takes no part.
+std::optional<Marco> ExtensionDe(const Elemento& e, float margen);
+// The box of all from the box of what each adds and the first that takes part, whose position counts always.
+std::optional<Marco> ExtensionCompleta(Marco marco, const Elemento* primero);
 
 // Brings every bound that is outside the world one unit inside it; true when there was one. A side that this
 // leaves without length keeps one unit.

@@ -57,9 +57,9 @@ std::shared_ptr<Elemento> Localizador::BuscaElemento(float x, float y,
     ElementoHallado hallado;
     std::shared_ptr<Elemento> elemento;
     if (enTodo) {
-        indice_.Ata(documento_.colElementos);
-        hallado = Busca(panel_, ajustes, indice_, busqueda);
-        elemento = indice_.Referencia(hallado.elemento);
+        documento_.indice.Ata(documento_.colElementos);
+        hallado = Busca(panel_, ajustes, documento_.indice, busqueda);
+        elemento = documento_.indice.Referencia(hallado.elemento);
     } else if (unico) {
         const Elemento* const uno[] = {unico.get()};
         hallado = Busca(panel_, ajustes, uno, busqueda);
@@ -77,8 +77,8 @@ std::shared_ptr<Elemento> Localizador::BuscaElemento(float x, float y,
 }
 
 bool Localizador::HayElementoBajoEtiqueta(const Punto& origen, const Punto& tamanyo) try {
-    indice_.Ata(documento_.colElementos);
-    return zel::HayElementoBajoEtiqueta(indice_, {origen.XPos(), origen.YPos()},
+    documento_.indice.Ata(documento_.colElementos);
+    return zel::HayElementoBajoEtiqueta(documento_.indice, {origen.XPos(), origen.YPos()},
                                         {tamanyo.XPos(), tamanyo.YPos()});
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrHayElementoBajoEtiqueta (Esquema)");

@@ -5,7 +5,6 @@
 #include <memory>
 #include <unordered_set>
 
-#include "drawing/IndiceDeElementos.h"
 #include "session/Documento.h"
 #include "session/Trabajo.h"
 #include "session/Vista.h"
@@ -47,7 +46,6 @@ class Localizador {
     Trabajo& trabajo_;
     const Vista& vista_;
     std::function<void(std::int32_t)> subrayaElem_;
-    IndiceDeElementos indice_;
 };
 
 }  // namespace zel

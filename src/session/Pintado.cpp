@@ -25,7 +25,8 @@ Pintado::Pintado(Superficie& panel, Documento& documento, Trabajo& trabajo, Refr
       refresco_(refresco),
       vista_(vista),
       desplazamiento_(desplazamiento),
-      fondo_(std::move(fondo)) {}
+      fondo_(std::move(fondo)),
+      indice_(documento.indice) {}
 
 bool Pintado::TieneContornos(std::int32_t iEstado) noexcept {
     return iEstado == E_LAZO || iEstado == E_ARRASTRAR_ELEMENTO || iEstado == E_ARRASTRAR_PUNTO ||
@@ -49,6 +50,14 @@ Marcas Pintado::MarcasDelTrabajo() const {
     marcas.colConduccionesMovidas = trabajo_.colConduccionesMovidas;
     marcas.numeroDeCentral = documento_.UltimoKeyPant[ctCentralHidroelectrica] + 1;
     return marcas;
+}
+
+std::vector<std::string> Pintado::Pinta(const Elementos& elementos, const Marcas* marcas) {
+    const Fondo fondo = FondoDelMomento();
+    const bool todo = &elementos == documento_.colElementos.get();
+    if (todo) indice_.Ata(documento_.colElementos);
+    return PintaEsquema(panel_, AjustesDe(trabajo_, documento_, vista_), elementos, *documento_.colElementos,
+                        fondo, marcas, todo ? &indice_ : nullptr);
 }
 
 // Without its picture the schematic is painted all the same.
@@ -75,8 +84,7 @@ void Pintado::Panel_Paint() {
             codSubrayado_ = 0;
             if (trabajo_.iEstado == E_DIBUJANDO_CONDUCCION) trabajo_.trazadoTemporal.reset();
             const Marcas marcas = MarcasDelTrabajo();
-            auto deDibujo = PintaEsquema(panel_, AjustesDe(trabajo_, documento_, vista_), ConjuntoPintado(),
-                                         *documento_.colElementos, FondoDelMomento(), &marcas);
+            auto deDibujo = Pinta(ConjuntoPintado(), &marcas);
             std::move(deDibujo.begin(), deDibujo.end(), std::back_inserter(fallos));
         }
     }
@@ -113,8 +121,7 @@ void Pintado::UserControl_Paint() {
 
 void Pintado::PintaSinMarcas() {
     codSubrayado_ = 0;
-    Avisa(PintaEsquema(panel_, AjustesDe(trabajo_, documento_, vista_), *documento_.colElementos,
-                       *documento_.colElementos, FondoDelMomento()));
+    Avisa(Pinta(*documento_.colElementos, nullptr));
 }
 
 void Pintado::SombreaElemento(const std::shared_ptr<Elemento>& e) {

@@ -57,6 +57,7 @@ class Pintado {
     void SueltaAjenos() noexcept;
 
   private:
+    std::vector<std::string> Pinta(const Elementos& elementos, const Marcas* marcas);
     Marcas MarcasDelTrabajo() const;
     Fondo FondoDelMomento() const noexcept;
     void Avisa(const std::vector<std::string>& fallos);
@@ -68,6 +69,7 @@ class Pintado {
     Vista& vista_;
     Desplazamiento& desplazamiento_;
     std::function<Fondo()> fondo_;
+    IndiceDePintado indice_;
     std::int16_t LlamadasARefresco_ = 0;
     bool pintando_ = false;
     bool avisando_ = false;

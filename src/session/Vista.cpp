@@ -194,8 +194,9 @@ void Vista::AjustarImagen(Superficie& picture, std::int16_t modo) try {
 std::int16_t Vista::CalculaRegionActiva(Superficie& picture, bool bRegionActiva, const Elementos* elementos,
                                         bool bForzar) try {
     const bool recalcula = bRegionActiva || bForzar;
+    const float margen = 0.5F * TamanyoUnidad();
     const auto extension =
-        ExtensionDe(elementos ? *elementos : *documento_.colElementos, 0.5F * TamanyoUnidad());
+        elementos ? ExtensionDe(*elementos, margen) : extension_.De(documento_.colElementos, margen);
     if (!extension) {
         if (recalcula) {
             regionElementos_ = regionActiva_ = Marco::Visible(picture);

@@ -7,6 +7,7 @@
 #include "session/Anfitrion.h"
 #include "session/Avisos.h"
 #include "session/Documento.h"
+#include "session/ExtensionAlDia.h"
 #include "session/Refresco.h"
 #include "session/Trabajo.h"
 
@@ -87,6 +88,7 @@ class Vista {
     Avisos& avisos_;
     Anfitrion& anfitrion_;
 
+    ExtensionAlDia extension_;
     float escalaDibujo_ = 0;
     float relacionAspecto_ = 0;
     Marco regionElementos_;

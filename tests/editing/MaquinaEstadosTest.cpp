@@ -137,6 +137,40 @@ TEST_F(Estados, LeavingAGestureForStateFiveDropsItsObjectsAndItsMarksInTheTraces
     }
 }
 
+TEST_F(Estados, NoTraceOfTheSchematicKeepsItsMarksWhoeverHasSetThem) {
+    const auto compartida = Elem(TOMA)->Trazado();
+    Elem(CENTRAL)->Trazado2(compartida);
+    const auto ajena = Traza({{1, 1}, {2, 2}}), otra = Traza({{3, 3}, {4, 4}});
+    const auto marca = [&] {
+        for (const auto& trazado : {compartida, ajena, otra})
+            trazado->Valor3(1);
+    };
+    const auto marcas = [&] { return compartida->Valor3() + 2 * ajena->Valor3() + 4 * otra->Valor3(); };
+    const auto retirada = Elem(TOMA);
+    const struct {
+        const char* que;
+        std::function<void()> prepara;
+        float quedan;
+    } filas[] = {
+        {"the one that two share", marca, 6},
+        {"once more", marca, 6},
+        {"marked before an element has it", [&] { marca(), Elem(CENTRAL)->Trazado2(ajena); }, 4},
+        {"marked after one of its two elements is gone",
+         [&] { Elem(CENTRAL)->Trazado(compartida), documento.colElementos->RemoveCodSIG(TOMA), marca(); }, 4},
+        {"before its element comes in",
+         [&] {
+             marca(), documento.colElementos->AddObjetoElemento(Lineal(ctToma, {}, {}), ""),
+                 documento.colElementos->Item(documento.colElementos->Count())->Trazado(otra);
+         },
+         0},
+        {"of another schematic", [&] { Pon({*retirada}), marca(); }, 6}};
+    for (const auto& fila : filas) {
+        fila.prepara();
+        estados.BorrarInfoExtra();
+        EXPECT_EQ(marcas(), fila.quedan) << fila.que;
+    }
+}
+
 TEST_F(Estados, GoingBackReturnsToTheStateBefore) {
     estados.Estado(0, 1);  // of a viewer that has just started
     EXPECT_EQ(trabajo.iEstado, 5);

@@ -27,8 +27,8 @@ class Diarios : public ::testing::Test {
         const auto cambios = elementos.Diario().Lee(leido);
         if (!cambios) return "todo";
         std::string codigos;
-        for (const auto& [elemento, quitado] : *cambios)
-            codigos += quitado ? "-" : std::to_string(elemento->gfCodSIG());
+        for (const auto& cambio : *cambios)
+            codigos += cambio.Quitado ? "-" : std::to_string(cambio.elemento->gfCodSIG());
         return codigos;
     }
 
@@ -57,8 +57,17 @@ TEST_F(Diarios, TellWhatWhoeverItWasHasChangedAndNothingElse) {
         {"", [&] { e.EtiquetaTamanyo(2); }, "1"},
         {"", [&] { e.EtiquetaTamanyoRelativo(false); }, "1"},
         {"", [&] { e.MostrarEtiqueta(false); }, "1"},
+        {"", [&] { e.ElemIni(8); }, "1"},
+        {"", [&] { e.ElemFin(8); }, "1"},
+        {"", [&] { e.ConecSec1(8); }, "1"},
+        {"", [&] { e.ConecSec2(8); }, "1"},
+        {"a mark of both", [&] { trazado->Valor(1); }, "21"},
+        {"", [&] { trazado->Valor2(1); }, "21"},
+        {"", [&] { trazado->Valor3(1); }, "21"},
+        {"", [&] { trazado->Flecha(true); }, "21"},
+        {"no marks any more", [&] { trazado->BorraMarcas(), Lee(), trazado->BorraMarcas(); }, ""},
         {"the values that there are", [&] { e.XPos(1), e.Nombre("Otro"), e.Trazado(trazado); }, ""},
-        {"what is not seen", [&] { e.Valor(3), e.KeyPant(9), e.ColorLinea(1), e.ElemFin(5); }, ""},
+        {"what is not seen", [&] { e.Valor(3), e.KeyPant(9), e.ColorLinea(1), e.gfCodSIG(1); }, ""},
         {"several in a row", [&] { e.XPos(2), e.YPos(2), e.XPos(3); }, "1"},
         {"a copy", [&] { Elemento(e).XPos(8); }, ""},
         {"a point of both", [&] { punto->XPos(7); }, "21"},
