@@ -150,7 +150,7 @@ TEST_F(Subsistemas, WithCtrlHeldElementsAreTakenOneByOne) {
     Clic({40, 100});
     Clic({40, 100});
     QTest::keyRelease(Panel(), Qt::Key_Control);
-    EXPECT_EQ(Elegidos(), "2 3 1 5 6");
+    EXPECT_EQ(Elegidos(), "2 3 1 6 5");
     QTest::keyPress(Panel(), Qt::Key_Control, Qt::ControlModifier);
     Clic({40, 100});
     QTest::keyRelease(Panel(), Qt::Key_Control);

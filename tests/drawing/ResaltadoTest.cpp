@@ -124,8 +124,7 @@ TEST(Resaltado, EachStateShowsWhatTheUserHasInHand) {
         {16, &central, "", ""}};
 
     for (const auto& [estado, elegido, trazos, plumas] : filas) {
-        const Marcas marcas{elegido, &elegidos, nuevo.get(), nuevo2.get(), &referencia, lazo.get(),
-                            nullptr, {},        13};
+        const Marcas marcas{elegido, &elegidos, nuevo.get(), nuevo2.get(), &referencia, lazo.get(), 13};
         AjustesDibujo ajustes = Ajustes();
         ajustes.iEstado = estado;
         ajustes.iTipoHerramienta = ctCentralHidroelectrica;
