@@ -10,7 +10,7 @@ namespace zel {
 
 namespace {
 
-constexpr QSize TAMANYO{720, 620};
+constexpr QSize TAMANYO{760, 660};
 
 // A row without a second text is a heading.
 struct Fila {
@@ -31,7 +31,7 @@ constexpr Fila FILAS[] = {
     {"Soltar un archivo en la ventana", "Abre el esquema"},
     {"Teclas del esquema", nullptr},
     {"Supr", "Borra el elemento seleccionado, tras preguntarlo"},
-    {"Esc", "Deja lo que se está haciendo; sin nada entre manos, quita la selección"},
+    {"Esc", "Deja lo que se está haciendo, o quita la selección"},
     {"Retroceso", "Quita el último punto del trazado que se dibuja"},
     {"Flechas", "Desplazan la vista"},
     {"+ y − del teclado numérico", "Acercan y alejan la vista"},
@@ -39,7 +39,7 @@ constexpr Fila FILAS[] = {
     {"Mayús+Z", "Amplía la región que se marque"},
     {"M", "Arrastra la vista con el ratón"},
     {"C", "Centra la vista en el elemento seleccionado"},
-    {"Alt+F10, Alt+F11", "Primera y segunda conexión secundaria del elemento seleccionado"},
+    {"Alt+F10, Alt+F11", "Primera y segunda conexión secundaria del elemento"},
     {"Elementos nuevos", nullptr},
     {"Mayús+N, E, D, A", "Nudo, embalse, demanda, acuífero"},
     {"Mayús+1 a Mayús+5", "Conducción de cada tipo"},

@@ -31,9 +31,8 @@ QString Detalle(const std::vector<std::shared_ptr<Elemento>>& dependientes, bool
     QString detalle;
     if (!dependientes.empty()) {
         detalle = dependientes.size() == 1
-                      ? QStringLiteral("Con él se borra el elemento que depende de él:")
-                      : QStringLiteral("Con él se borran los %1 elementos que dependen de él:")
-                            .arg(dependientes.size());
+                      ? QStringLiteral("Se borra también un elemento conectado:")
+                      : QStringLiteral("Se borran también %1 elementos conectados:").arg(dependientes.size());
         const std::size_t nombrados = std::min(dependientes.size(), MAXIMO_NOMBRADOS);
         for (std::size_t i = 0; i < nombrados; ++i)
             detalle += QStringLiteral("\n   ") + Describe(*dependientes[i]);

@@ -54,7 +54,7 @@ const Elemento* QuienTiene(const Elementos& elementos, const Elemento& e, std::i
 
 FormularioElemento::FormularioElemento(const Elementos& elementos, const Elemento& e, QWidget* padre)
     : QDialog(padre), elementos_(elementos), e_(e) {
-    setWindowTitle(QStringLiteral("Datos de ") + Describe(e));
+    setWindowTitle(QStringLiteral("Datos del elemento"));
     auto* filas = new QFormLayout(this);
     const MedidaDeTamanyo& medida = MedidaDe(e);
     campoNombre_ = CreaCampo(*filas, QStringLiteral("&Nombre:"), QStringLiteral("nombre"),
@@ -96,7 +96,6 @@ void FormularioElemento::CreaFijos(QFormLayout& filas) {
         auto* valor = new QLabel(texto, this);
         valor->setTextFormat(Qt::PlainText);
         valor->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        valor->setWordWrap(true);
         filas.addRow(QString::fromUtf8(rotulo), valor);
     };
     const std::string_view tipo = NombreDeTipo(e_.Tipo());

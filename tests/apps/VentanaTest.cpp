@@ -210,7 +210,8 @@ TEST_F(Ventana, DeletingTakesWhatCannotStayWithoutTheElement) {
     EXPECT_EQ(red->Count(), 7);
     Contesta(u"Borrar"_s, [](QDialog& caja) {
         const QString detalle = dynamic_cast<QMessageBox&>(caja).informativeText();
-        EXPECT_TRUE(detalle.contains(u"los 3 elementos"_s) && detalle.contains(u"Subcuenca \"Monte\""_s));
+        EXPECT_TRUE(detalle.contains(u"3 elementos conectados"_s) &&
+                    detalle.contains(u"Subcuenca \"Monte\""_s));
     });
     QTest::mouseClick(borrar, Qt::LeftButton);
     EXPECT_EQ(red->Count(), 3);
