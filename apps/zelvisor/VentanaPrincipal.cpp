@@ -1,16 +1,23 @@
 #include "VentanaPrincipal.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QKeyEvent>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QTimer>
 #include <QWheelEvent>
 #include <cmath>
 
+#include "Ajustes.h"
+#include "Ayuda.h"
+#include "Borrado.h"
+#include "FormularioElemento.h"
+#include "Preguntas.h"
+#include "Recientes.h"
 #include "control/Esquema.h"
-#include "file/lectorArchivo.h"
-#include "platform/Dialogos.h"
 
 namespace zel {
 
@@ -20,126 +27,152 @@ constexpr double ACERCA = 0.5;  // of the visible area
 constexpr double ALEJA = 2.0;
 constexpr double PASO = 0.1;  // of the visible width or height
 constexpr double GRADOS_POR_MUESCA = 120;
+constexpr int MIRA_CAMBIOS_MS = 200;
+const QString GEOMETRIA = QStringLiteral("ventana/geometria");
 
-class CursorDeEspera {
-  public:
-    CursorDeEspera() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    CursorDeEspera(const CursorDeEspera&) = delete;
-    CursorDeEspera& operator=(const CursorDeEspera&) = delete;
-    ~CursorDeEspera() { QApplication::restoreOverrideCursor(); }
-};
-
-// Runs what may fail and tells the user; nothing may leave an event handler.
-template <typename Accion>
-void DiloSiFalla(Accion accion) {
-    try {
-        accion();
-    } catch (const std::exception& fallo) {
-        dialogos().MsgBox(fallo.what());
-    }
+// The one local file among what is dragged; empty when it is anything else.
+QString ArchivoArrastrado(const QMimeData* datos) {
+    const QList<QUrl> urls = datos->urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
 }
 
 }  // namespace
 
-VentanaPrincipal::VentanaPrincipal() : esquema_(new Esquema(this)) {
+VentanaPrincipal::VentanaPrincipal()
+    : esquema_(new Esquema(this)), adjuntos_(*esquema_), documentos_(*esquema_, adjuntos_, this) {
     setCentralWidget(esquema_);
-    connect(esquema_, &Esquema::ErrorEnEvento, this, [](qint32, const QString&, const QString& descripcion) {
-        dialogos().MsgBox(descripcion.toStdString());
-    });
-    CreaMenus();
-    setWindowTitle(QGuiApplication::applicationDisplayName());
+    setAcceptDrops(true);
+    AtiendeAlControl();
+    CreaMenuArchivo();
+    CreaMenuVer();
+    CreaMenuAyuda();
+    connect(&documentos_, &Documentos::Cambiado, this, &VentanaPrincipal::PonTitulo);
+    connect(&documentos_, &Documentos::CargaCambiada, menuBar(), &QWidget::setDisabled);
+    PonTitulo();
     resize(1280, 860);
+    restoreGeometry(Ajustes().value(GEOMETRIA).toByteArray());
     esquema_->setFocus();
 }
 
-void VentanaPrincipal::CreaMenus() {
-    QMenu* archivo = menuBar()->addMenu(tr("&Archivo"));
-    archivo->addAction(tr("&Abrir..."), QKeySequence::Open, this,
-                       [this] { DiloSiFalla([this] { PreguntaYAbre(); }); });
-    archivo->addAction(tr("&Guardar"), QKeySequence::Save, this, [this] {
-        if (ruta_.isEmpty())
-            GuardaComo();
-        else
-            Guarda(ruta_);
-    });
-    archivo->addAction(tr("Guardar &como..."), QKeySequence::SaveAs, this, [this] { GuardaComo(); });
-    archivo->addSeparator();
-    archivo->addAction(tr("&Salir"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
-    QMenu* ver = menuBar()->addMenu(tr("&Ver"));
-    ver->addAction(tr("A&cercar"), QKeySequence(Qt::Key_Plus), this,
-                   [this] { DiloSiFalla([this] { esquema_->CambiaZoom(ACERCA); }); });
-    ver->addAction(tr("A&lejar"), QKeySequence(Qt::Key_Minus), this,
-                   [this] { DiloSiFalla([this] { esquema_->CambiaZoom(ALEJA); }); });
-    ver->addAction(tr("&Todo el esquema"), QKeySequence(Qt::Key_Home), this,
-                   [this] { DiloSiFalla([this] { esquema_->ResizeGrafo(); }); });
-    ver->addSeparator();
+void VentanaPrincipal::AtiendeAlControl() {
+    connect(esquema_, &Esquema::ErrorEnEvento, this,
+            [this](qint32, const QString&, const QString& descripcion) { fallos_.Di(descripcion); });
+    connect(esquema_, &Esquema::PeticionBorrado, this,
+            [this](qint32& codigo) { DiloSiFalla([&] { PreguntaYBorra(*esquema_, this, codigo); }); });
+    connect(esquema_, &Esquema::EditarElemento, this,
+            [this](qint32& codigo) { DiloSiFalla([&] { EditaElemento(*esquema_, this, codigo); }); });
+    connect(esquema_, &Esquema::AdjuntarArchivo, this,
+            [this](qint32& codigo) { DiloSiFalla([&] { adjuntos_.Adjunta(codigo); }); });
+    connect(esquema_, &Esquema::AdjuntarVer, this,
+            [this](qint32& codigo) { DiloSiFalla([&] { adjuntos_.Muestra(codigo); }); });
+    // The control tells most changes, but not all of them, and some before they are made.
+    auto* reloj = new QTimer(this);
+    connect(reloj, &QTimer::timeout, this, [this] { setWindowModified(esquema_->bHabidoCambios()); });
+    reloj->start(MIRA_CAMBIOS_MS);
+}
+
+template <typename Orden>
+QAction* VentanaPrincipal::PonOrden(QMenu* menu, const QString& texto, const QKeySequence& tecla,
+                                    Orden orden) {
+    return menu->addAction(texto, tecla, this, [orden] { DiloSiFalla(orden); });
+}
+
+void VentanaPrincipal::CreaMenuArchivo() {
+    QMenu* menu = menuBar()->addMenu(tr("&Archivo"));
+    PonOrden(menu, tr("&Nuevo"), Qt::CTRL | Qt::Key_N, [this] { documentos_.Nuevo(); });
+    PonOrden(menu, tr("&Abrir..."), Qt::CTRL | Qt::Key_O, [this] { documentos_.PreguntaYAbre(); });
+    QMenu* recientes = menu->addMenu(tr("Abrir &reciente"));
+    recientes->setObjectName(QStringLiteral("recientes"));
+    recientes->setToolTipsVisible(true);
+    connect(recientes, &QMenu::aboutToShow, this, [this, recientes] { LlenaRecientes(recientes); });
+    menu->addSeparator();
+    PonOrden(menu, tr("&Guardar"), Qt::CTRL | Qt::Key_S, [this] { documentos_.Guarda(); });
+    PonOrden(menu, tr("Guardar &como..."), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+             [this] { documentos_.GuardaComo(); });
+    menu->addSeparator();
+    PonOrden(menu, tr("&Salir"), Qt::CTRL | Qt::Key_Q, [this] { close(); });
+}
+
+void VentanaPrincipal::CreaMenuVer() {
+    QMenu* menu = menuBar()->addMenu(tr("&Ver"));
+    PonOrden(menu, tr("A&cercar"), Qt::CTRL | Qt::Key_Plus, [this] { esquema_->CambiaZoom(ACERCA); });
+    PonOrden(menu, tr("A&lejar"), Qt::CTRL | Qt::Key_Minus, [this] { esquema_->CambiaZoom(ALEJA); });
+    PonOrden(menu, tr("&Todo el esquema"), Qt::Key_Home, [this] { esquema_->ResizeGrafo(); });
+    menu->addSeparator();
     for (const char* orden : {"menuVisorImagen", "menuVisorQuitarImagen"}) {
-        if (auto* accion = esquema_->findChild<QAction*>(QString::fromLatin1(orden))) ver->addAction(accion);
+        if (auto* accion = esquema_->findChild<QAction*>(QString::fromLatin1(orden))) menu->addAction(accion);
     }
 }
 
-void VentanaPrincipal::PreguntaYAbre() {
-    const auto ruta = dialogos().ArchivoAbrir("Abrir esquema", "Esquemas|*.xml|Todos los archivos|*.*");
-    if (ruta) Abre(QString::fromStdString(*ruta));
+void VentanaPrincipal::CreaMenuAyuda() {
+    QMenu* menu = menuBar()->addMenu(tr("A&yuda"));
+    PonOrden(menu, tr("&Gestos y teclas"), Qt::Key_F1, [this] { MuestraAyuda(); });
 }
 
-void VentanaPrincipal::Abre(const QString& ruta) {
-    const auto noSeAbre = [&](const std::string& motivo) {
-        dialogos().MsgBox("No se puede abrir \"" + ruta.toStdString() + "\": " + motivo +
-                          ".\n\nCompruebe la ruta y que el archivo es un esquema en XML.");
-    };
-    lectorArchivo lector;
-    lector.NombreArchivo(ruta.toStdString());
-    const std::string motivo = lector.MotivoParaNoAbrir();
-    if (!motivo.empty()) {
-        noSeAbre(motivo);
+void VentanaPrincipal::MuestraAyuda() {
+    auto* ayuda = findChild<Ayuda*>();
+    if (!ayuda) ayuda = new Ayuda(this);
+    ayuda->show();
+    ayuda->raise();
+    ayuda->activateWindow();
+}
+
+void VentanaPrincipal::LlenaRecientes(QMenu* menu) {
+    menu->clear();
+    int numero = 0;
+    for (const QString& ruta : Recientes::Rutas()) {
+        const QFileInfo archivo(ruta);
+        QString texto =
+            archivo.fileName() + QStringLiteral("   ") + QDir::toNativeSeparators(archivo.absolutePath());
+        texto.replace(u'&', QStringLiteral("&&"));
+        PonOrden(menu, QStringLiteral("&%1  %2").arg(++numero).arg(texto), {}, [this, ruta] {
+            AbreReciente(ruta);
+        })->setToolTip(ruta);
+    }
+    if (menu->isEmpty()) {
+        menu->addAction(tr("Ninguno"))->setEnabled(false);
         return;
     }
-    // What is begun with one schematic must not go on with the other.
-    menuBar()->setEnabled(false);
-    std::string fallo;
-    try {
-        const CursorDeEspera espera;
-        esquema_->ArchivoAbrir(ruta);
-    } catch (const Fallo& error) {
-        fallo = error.Description();
-    }
-    menuBar()->setEnabled(true);
-    if (!fallo.empty()) {
-        esquema_->Refresh();
-        noSeAbre(fallo);
+    menu->addSeparator();
+    PonOrden(menu, tr("&Vaciar la lista"), {}, [] { Recientes::Vacia(); });
+}
+
+void VentanaPrincipal::AbreReciente(const QString& ruta) {
+    if (QFileInfo::exists(ruta)) {
+        documentos_.Abre(ruta);
         return;
     }
-    PonRuta(ruta);
-    DiProblemas();
+    Recientes::Quita(ruta);
+    dialogos().MsgBox("Ya no se encuentra \"" + ruta.toStdString() +
+                      "\". Se ha quitado de la lista de esquemas recientes.");
 }
 
-void VentanaPrincipal::PonRuta(const QString& ruta) {
-    ruta_ = ruta;
-    setWindowTitle(QFileInfo(ruta).fileName() + QStringLiteral(" - ") +
-                   QGuiApplication::applicationDisplayName());
+void VentanaPrincipal::PonTitulo() {
+    setWindowModified(esquema_->bHabidoCambios());
+    // A name may hold the mark's own text.
+    QString nombre = documentos_.Nombre();
+    nombre.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    setWindowTitle(nombre + QStringLiteral("[*] - ") + QGuiApplication::applicationDisplayName());
 }
 
-void VentanaPrincipal::DiProblemas() {
-    if (esquema_->ProblemasDeCarga().isEmpty()) return;
-    dialogos().MsgBox("El esquema se ha abierto, pero faltaban datos o se repetían. Consulte el archivo " +
-                      QDir::current().filePath(QStringLiteral("ErroresCarga.log")).toStdString() + ".");
+void VentanaPrincipal::closeEvent(QCloseEvent* evento) {
+    bool seCierra = false;
+    DiloSiFalla([&] { seCierra = documentos_.PuedePerderse(); });
+    evento->setAccepted(seCierra);
+    if (seCierra) Ajustes().setValue(GEOMETRIA, saveGeometry());
 }
 
-void VentanaPrincipal::Guarda(const QString& ruta) {
-    try {
-        esquema_->ArchivoGuardar(ruta);
-        PonRuta(ruta);
-    } catch (const Fallo& error) {
-        dialogos().MsgBox("No se puede guardar \"" + ruta.toStdString() + "\": " + error.Description() +
-                          ".\n\nEl archivo que hubiera con ese nombre sigue como estaba.");
-    }
+void VentanaPrincipal::dragEnterEvent(QDragEnterEvent* evento) {
+    if (!documentos_.Cargando() && !ArchivoArrastrado(evento->mimeData()).isEmpty())
+        evento->acceptProposedAction();
 }
 
-void VentanaPrincipal::GuardaComo() {
-    const auto ruta = dialogos().ArchivoGuardar("Guardar esquema", "Esquemas|*.xml|Todos los archivos|*.*",
-                                                ruta_.toStdString());
-    if (ruta) Guarda(QString::fromStdString(*ruta));
+void VentanaPrincipal::dropEvent(QDropEvent* evento) {
+    const QString ruta = ArchivoArrastrado(evento->mimeData());
+    if (ruta.isEmpty()) return;
+    evento->acceptProposedAction();
+    // Who dragged it waits until this returns, and a question may come.
+    QTimer::singleShot(0, this, [this, ruta] { DiloSiFalla([&] { documentos_.Abre(ruta); }); });
 }
 
 // A closer view for each notch away from the user; a touchpad sends parts of a notch.
@@ -162,27 +195,6 @@ void VentanaPrincipal::wheelEvent(QWheelEvent* evento) {
             esquema_->DesplazaVista(-evento->angleDelta().x() / GRADOS_POR_MUESCA * PASO, muescas * PASO);
     });
     evento->accept();
-}
-
-void VentanaPrincipal::keyPressEvent(QKeyEvent* evento) {
-    DiloSiFalla([&] {
-        switch (evento->key()) {
-            case Qt::Key_Left:
-                esquema_->DesplazaVista(-PASO, 0);
-                break;
-            case Qt::Key_Right:
-                esquema_->DesplazaVista(PASO, 0);
-                break;
-            case Qt::Key_Up:
-                esquema_->DesplazaVista(0, PASO);
-                break;
-            case Qt::Key_Down:
-                esquema_->DesplazaVista(0, -PASO);
-                break;
-            default:
-                QMainWindow::keyPressEvent(evento);
-        }
-    });
 }
 
 }  // namespace zel

@@ -2,11 +2,17 @@
 
 #include <QMainWindow>
 
+#include "Adjuntos.h"
+#include "AvisosDeFallo.h"
+#include "Documentos.h"
+
+class QMenu;
+
 namespace zel {
 
 class Esquema;
 
-// The program's window: the control, a menu and a status bar.
+// The program's window: the control, the menus, and the answers to what the control tells.
 class VentanaPrincipal : public QMainWindow {
     Q_OBJECT
   public:
@@ -14,27 +20,34 @@ class VentanaPrincipal : public QMainWindow {
 
     // Opens a file and shows the whole schematic. When it cannot be read a box says why and what was open
     // stays.
-    void Abre(const QString& ruta);
-    // Saves what is shown; when that fails a box says why and the file stays as it was.
-    void Guarda(const QString& ruta);
+    bool Abre(const QString& ruta) { return documentos_.Abre(ruta); }
 
   protected:
     void wheelEvent(QWheelEvent* evento) override;
-    void keyPressEvent(QKeyEvent* evento) override;
+    void closeEvent(QCloseEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
 
   private:
-    void CreaMenus();
-    void PreguntaYAbre();
-    void GuardaComo();
-    void PonRuta(const QString& ruta);
-    void DiProblemas();
+    void AtiendeAlControl();
+    void CreaMenuArchivo();
+    void CreaMenuVer();
+    void CreaMenuAyuda();
+    template <typename Orden>
+    QAction* PonOrden(QMenu* menu, const QString& texto, const QKeySequence& tecla, Orden orden);
+    void LlenaRecientes(QMenu* menu);
+    void AbreReciente(const QString& ruta);
+    void MuestraAyuda();
+    void PonTitulo();
     void CambiaZoomConRueda(double muescas);
 
     // The direction in which the last turn of the wheel reached the end of the zoom.
     enum class Sentido { Ninguno, Cerca, Lejos };
 
     Esquema* esquema_;
-    QString ruta_;  // of what is shown; empty before anything is opened
+    Adjuntos adjuntos_;
+    Documentos documentos_;
+    AvisosDeFallo fallos_;
     Sentido negado_ = Sentido::Ninguno;
 };
 

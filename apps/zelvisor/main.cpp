@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QTimer>
 #include <QTranslator>
 #include <algorithm>
 #include <csignal>
@@ -12,6 +13,7 @@
 #include <iostream>
 
 #include "Ordenes.h"
+#include "Preguntas.h"
 #include "VentanaPrincipal.h"
 #include "platform/Dialogos.h"
 #include "platform/qt/DialogosQt.h"
@@ -144,7 +146,11 @@ int main(int argc, char** argv) {
         zel::VentanaPrincipal ventana;
         ventana.show();
         const QStringList archivos = ConCarpetaEscribible(argumentos);
-        if (!archivos.isEmpty()) ventana.Abre(archivos.first());
+        // In the event loop: a window closed during the load ends the program.
+        if (!archivos.isEmpty()) {
+            QTimer::singleShot(0, &ventana,
+                               [&] { zel::DiloSiFalla([&] { ventana.Abre(archivos.first()); }); });
+        }
         return QApplication::exec();
     } catch (const std::exception& fallo) {
         std::cerr << "zelvisor: " << fallo.what() << '\n';

@@ -6,10 +6,7 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "VentanaPrincipal.h"
-#include "control/Esquema.h"
 #include "support/CarpetaTemporal.h"
-#include "support/DialogosGuion.h"
 
 namespace zel::pruebas {
 namespace {
@@ -126,32 +123,6 @@ TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
         EXPECT_TRUE(Contiene(resultado.texto, caso.texto)) << caso.orden << ":\n" << resultado.texto;
         EXPECT_FALSE(std::filesystem::exists("salida.png")) << caso.orden;
     }
-}
-
-TEST(Ventana, AFileThatCannotBeOpenedLeavesTheOneThatWas) {
-    const CarpetaTemporal carpeta;
-    DialogosGuion dialogos;
-    VentanaPrincipal ventana;
-    ventana.show();
-    ventana.Abre(QString::fromStdString(CUENCA));
-    const auto* esquema = ventana.findChild<Esquema*>();
-    const auto cuenca = esquema->GetElementos();
-    EXPECT_EQ(cuenca->Count(), 114);
-    EXPECT_TRUE(ventana.windowTitle().startsWith(QStringLiteral("cuenca.xml")));
-
-    dialogos.Espera("No se puede abrir \"nada.xml\"");
-    ventana.Abre(QStringLiteral("nada.xml"));
-    dialogos.Espera("no es un esquema");
-    ventana.Abre(QString::fromStdString(carpeta.Escribe("otro.xml", "<Otro/>")));
-    EXPECT_EQ(esquema->GetElementos(), cuenca);
-
-    ventana.Abre(QString::fromStdString(carpeta.Escribe("vacio.xml", "<Esquema><Elementos/></Esquema>")));
-    EXPECT_EQ(esquema->GetElementos()->Count(), 0);
-
-    dialogos.Espera("ErroresCarga.log");
-    ventana.Abre(QString::fromStdString(carpeta.Escribe(
-        "incompleto.xml", "<Esquema><Elemento><gfCodSig>1</gfCodSig><Tipo>10</Tipo></Elemento></Esquema>")));
-    EXPECT_EQ(esquema->GetElementos()->Count(), 1);
 }
 
 }  // namespace

@@ -1,0 +1,148 @@
+#include "Documentos.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include "Preguntas.h"
+#include "Recientes.h"
+#include "control/Esquema.h"
+#include "file/lectorArchivo.h"
+
+namespace zel {
+
+namespace {
+
+constexpr const char* FILTRO = "Esquemas|*.xml|Todos los archivos|*.*";
+
+class CursorDeEspera {
+  public:
+    CursorDeEspera() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    CursorDeEspera(const CursorDeEspera&) = delete;
+    CursorDeEspera& operator=(const CursorDeEspera&) = delete;
+    ~CursorDeEspera() { QApplication::restoreOverrideCursor(); }
+};
+
+bool NoSeAbre(const QString& ruta, const std::string& motivo) {
+    dialogos().MsgBox("No se puede abrir \"" + ruta.toStdString() + "\": " + motivo +
+                      ".\n\nCompruebe la ruta y que el archivo es un esquema en XML.");
+    return false;
+}
+
+}  // namespace
+
+Documentos::Documentos(Esquema& esquema, Adjuntos& adjuntos, QWidget* ventana)
+    : esquema_(esquema), adjuntos_(adjuntos), ventana_(ventana) {}
+
+QString Documentos::Nombre() const {
+    return ruta_.isEmpty() ? QStringLiteral("Sin título") : QFileInfo(ruta_).fileName();
+}
+
+void Documentos::PonRuta(const QString& ruta) {
+    ruta_ = ruta;
+    if (!ruta.isEmpty()) Recientes::Pon(ruta);
+    emit Cambiado();
+}
+
+bool Documentos::PuedePerderse() {
+    if (cargando_ || !esquema_.bHabidoCambios()) return true;
+    switch (PreguntaSiGuardar(ventana_, Nombre())) {
+        case Respuesta::Guardar:
+            return Guarda();
+        case Respuesta::Descartar:
+            return true;
+        case Respuesta::Cancelar:
+            break;
+    }
+    return false;
+}
+
+bool Documentos::Nuevo() {
+    if (cargando_ || !PuedePerderse()) return false;
+    // A file that is not there opens as an empty schematic, whose codes and numbers begin anew.
+    if (!Carga({})) return false;
+    esquema_.bMostrarLineasOcultas(true);
+    adjuntos_.Recuerda({});
+    PonRuta({});
+    return true;
+}
+
+bool Documentos::PreguntaYAbre() {
+    const auto ruta = dialogos().ArchivoAbrir("Abrir esquema", FILTRO);
+    return ruta && Abre(QString::fromStdString(*ruta));
+}
+
+bool Documentos::Abre(const QString& ruta) {
+    if (cargando_) return false;
+    lectorArchivo lector;
+    lector.NombreArchivo(ruta.toStdString());
+    const std::string motivo = lector.MotivoParaNoAbrir();
+    if (!motivo.empty()) return NoSeAbre(ruta, motivo);
+    if (!PuedePerderse() || !Carga(ruta)) return false;
+    const QString entera = QFileInfo(ruta).absoluteFilePath();
+    adjuntos_.Recuerda(entera);
+    PonRuta(entera);
+    DiProblemas();
+    return true;
+}
+
+bool Documentos::Carga(const QString& ruta) {
+    // What is begun with one schematic must not go on with the other.
+    cargando_ = true;
+    emit CargaCambiada(true);
+    std::string fallo;
+    try {
+        const CursorDeEspera espera;
+        esquema_.ArchivoAbrir(ruta);
+    } catch (const Fallo& error) {
+        fallo = error.Description();
+    }
+    cargando_ = false;
+    emit CargaCambiada(false);
+    if (fallo.empty()) return true;
+    esquema_.Refresh();
+    return NoSeAbre(ruta, fallo);
+}
+
+void Documentos::DiProblemas() const {
+    if (esquema_.ProblemasDeCarga().isEmpty()) return;
+    dialogos().MsgBox("El esquema se ha abierto, pero faltaban datos o se repetían. Consulte el archivo " +
+                      QDir::current().filePath(QStringLiteral("ErroresCarga.log")).toStdString() + ".");
+}
+
+bool Documentos::Guarda() {
+    return ruta_.isEmpty() ? GuardaComo() : GuardaEn(ruta_);
+}
+
+bool Documentos::GuardaComo() {
+    if (cargando_) return false;
+    const auto elegida = dialogos().ArchivoGuardar("Guardar esquema", FILTRO,
+                                                   ruta_.isEmpty() ? "esquema.xml" : ruta_.toStdString());
+    if (!elegida) return false;
+    QString ruta = QFileInfo(QString::fromStdString(*elegida)).absoluteFilePath();
+    if (QFileInfo(ruta).suffix().isEmpty()) {
+        ruta += QStringLiteral(".xml");
+        // The dialog has asked for the name without it.
+        if (QFileInfo::exists(ruta) &&
+            !Confirma(ventana_, QStringLiteral("Ya existe \"%1\". ¿Reemplazarlo?").arg(ruta), {},
+                      QStringLiteral("&Reemplazar")))
+            return false;
+    }
+    return GuardaEn(ruta);
+}
+
+bool Documentos::GuardaEn(const QString& ruta) {
+    if (cargando_) return false;
+    try {
+        esquema_.ArchivoGuardar(ruta);
+    } catch (const Fallo& error) {
+        dialogos().MsgBox("No se puede guardar \"" + ruta.toStdString() + "\": " + error.Description() +
+                          ".\n\nEl archivo que hubiera con ese nombre sigue como estaba.");
+        return false;
+    }
+    adjuntos_.Conserva(ruta);
+    PonRuta(ruta);
+    return true;
+}
+
+}  // namespace zel

@@ -1,0 +1,54 @@
+#include "Preguntas.h"
+
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace zel {
+
+namespace {
+
+void Prepara(QMessageBox& caja, const QString& pregunta, const QString& detalle) {
+    caja.setWindowTitle(QGuiApplication::applicationDisplayName());
+    caja.setIcon(QMessageBox::Question);
+    caja.setTextFormat(Qt::PlainText);
+    caja.setText(pregunta);
+    caja.setInformativeText(detalle);
+}
+
+}  // namespace
+
+Respuesta PreguntaSiGuardar(QWidget* padre, const QString& nombre) {
+    QMessageBox caja(padre);
+    Prepara(caja, QStringLiteral("¿Guardar los cambios de \"%1\"?").arg(nombre),
+            QStringLiteral("Si no los guarda, se perderán."));
+    auto* guardar = caja.addButton(QStringLiteral("&Guardar"), QMessageBox::AcceptRole);
+    auto* descartar = caja.addButton(QStringLiteral("&Descartar"), QMessageBox::DestructiveRole);
+    auto* cancelar = caja.addButton(QStringLiteral("&Cancelar"), QMessageBox::RejectRole);
+    caja.setDefaultButton(guardar);
+    caja.setEscapeButton(cancelar);
+    caja.exec();
+    if (caja.clickedButton() == guardar) return Respuesta::Guardar;
+    return caja.clickedButton() == descartar ? Respuesta::Descartar : Respuesta::Cancelar;
+}
+
+bool Confirma(QWidget* padre, const QString& pregunta, const QString& detalle, const QString& accion) {
+    QMessageBox caja(padre);
+    Prepara(caja, pregunta, detalle);
+    auto* si = caja.addButton(accion, QMessageBox::AcceptRole);
+    auto* cancelar = caja.addButton(QStringLiteral("&Cancelar"), QMessageBox::RejectRole);
+    caja.setDefaultButton(cancelar);
+    caja.setEscapeButton(cancelar);
+    caja.exec();
+    return caja.clickedButton() == si;
+}
+
+QString Describe(const Elemento& e) {
+    const std::string_view tipo = NombreDeTipo(e.Tipo());
+    const QString clase = tipo.empty() ? QStringLiteral("Elemento")
+                                       : QString::fromUtf8(tipo.data(), static_cast<qsizetype>(tipo.size()));
+    if (e.Nombre().empty()) return QStringLiteral("%1 (código %2)").arg(clase).arg(e.gfCodSIG());
+    return clase + QStringLiteral(" \"") + QString::fromStdString(e.Nombre()) + u'"';
+}
+
+}  // namespace zel
