@@ -64,7 +64,7 @@ TEST_F(Indices, LookOnlyAtWhatMayBeInSight) {
     const Recuadro region = Recuadro::Alrededor({80000, 50}, 150);
     EXPECT_EQ(codigos(indice.Cuerpos(region)), "401 1101 1102 ");
     EXPECT_EQ(codigos(indice.Etiquetas(region, {8, 2})), "400 401 ") << "with their usual room";
-    EXPECT_EQ(codigos(indice.Etiquetas(region, {80, 2})), "397 398 399 400 401 ");
+    EXPECT_EQ(codigos(indice.Etiquetas(region, {80, 2})), "398 399 400 401 ");
     EXPECT_EQ(codigos(indice.Etiquetas(region, {2, 0.5})), "401 ") << "made anew when too large";
     EXPECT_EQ(codigos(indice.ConSecundarias()), "501 ");
 }
