@@ -7,8 +7,10 @@ namespace zel {
 
 namespace {
 
-constexpr double HOLGURA = 2;     // of the boxes when they are made
-constexpr double DEMASIADA = 16;  // and when they are made anew, smaller
+// Room in the labels' boxes: text grows with the zoom, what its rounding adds grows as the view does.
+constexpr double HOLGURA_POR_FACTOR = 1.25;
+constexpr double HOLGURA_FIJA = 4;
+constexpr double DEMASIADA = 16;  // from that much on they are made anew, smaller
 constexpr double REDONDEO = 1 + 1e-5;
 constexpr double ALTO_EXCESIVO = 1e30;
 
@@ -77,7 +79,7 @@ void IndiceDePintado::PonEtiquetasAlDia(const AltoDeLetra& alto) {
     const bool cabe = alto.porFactor <= banda_.porFactor && alto.fija <= banda_.fija;
     const bool holgada = banda_.porFactor + banda_.fija > DEMASIADA * (alto.porFactor + alto.fija);
     if (!cabe || holgada) {
-        banda_ = {HOLGURA * alto.porFactor, HOLGURA * alto.fija};
+        banda_ = {HOLGURA_POR_FACTOR * alto.porFactor, HOLGURA_FIJA * alto.fija};
         deEtiquetas_.Olvida();
     }
     deEtiquetas_.PonAlDia(

@@ -41,6 +41,7 @@ struct Marco {
         Ymax = std::max(Ymax, otro.Ymax);
     }
 
+    bool operator==(const Marco&) const = default;
     bool Contiene(const Marco& otro) const noexcept {
         return Xmin <= otro.Xmin && otro.Xmax <= Xmax && Ymin <= otro.Ymin && otro.Ymax <= Ymax;
     }

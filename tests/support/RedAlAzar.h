@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <limits>
 #include <random>
 
@@ -14,7 +15,6 @@ class RedAlAzar {
 
     std::shared_ptr<Elementos> elementos;
 
-    // Another collection.
     void Renueva(int cuantos) {
         elementos = std::make_shared<Elementos>();
         while (elementos->Count() < cuantos)
@@ -30,53 +30,33 @@ class RedAlAzar {
     std::int32_t Codigo() { return Hasta(ultimo_ + 2); }
 
     void Cambia() {
-        Elemento& e = *elementos->Item(1 + Hasta(elementos->Count()));
+        Elemento& e = Uno();
         const auto trazado = e.Trazado();
-        switch (Hasta(16)) {
-            case 0:
-                return e.XPos(Coordenada());
-            case 1:
-                return e.YPos(Coordenada());
-            case 2:
-                return e.Tamanyo(static_cast<float>(Hasta(70)) / 2);
-            case 3:
-                return e.Tipo(Tipo());
-            case 4:
-                return e.ElemIni(Codigo());
-            case 5:
-                return e.ElemFin(Codigo());
-            case 6:
-                return e.ConecSec1(Codigo());
-            case 7:
-                return e.ConecSec2(Hasta(2) ? -1 : Codigo());
-            case 8:
-                return e.EtiquetaPosX(Coordenada() - e.XPos());
-            case 9:
-                return e.MostrarEtiqueta(Hasta(2) == 0);
-            case 10:
-                return e.EtiquetaTamanyo(static_cast<float>(Hasta(30)) / 10);
-            case 11:
-                return e.Nombre(std::string(static_cast<std::size_t>(Hasta(30)), 'n') + "\ny más");
-            case 12:
-                return e.Trazado(Hasta(4) == 0 ? nullptr : Hasta(3) == 0 ? Otra().Trazado() : Nueva());
-            case 13:
-                if (trazado && trazado->Count())
-                    trazado->Item(1 + Hasta(trazado->Count()))->XPos(Coordenada());
-                return;
-            case 14:
-                if (trazado && Hasta(3)) return void(trazado->Add(Coordenada(), Coordenada()));
-                if (trazado && trazado->Count()) trazado->Remove(1);
-                return;
-            default:
-                if (Hasta(2)) elementos->Remove(1 + Hasta(elementos->Count()));
-                Agrega();
-        }
+        const bool conPuntos = trazado && trazado->Count() > 0;
+        const std::function<void()> cambios[] = {
+            [&] { e.XPos(Coordenada()), e.YPos(Coordenada()); },
+            [&] { e.Tamanyo(static_cast<float>(Hasta(70)) / 2); },
+            [&] { e.Tipo(Tipo()); },
+            [&] { Hasta(2) ? e.ElemIni(Codigo()) : e.ElemFin(Codigo()); },
+            [&] { Hasta(2) ? e.ConecSec1(Codigo()) : e.ConecSec2(Hasta(2) ? -1 : Codigo()); },
+            [&] { e.EtiquetaPosX(Coordenada() - e.XPos()); },
+            [&] { e.MostrarEtiqueta(Hasta(2) == 0); },
+            [&] { e.EtiquetaTamanyo(static_cast<float>(Hasta(30)) / 10); },
+            [&] { e.Nombre(std::string(static_cast<std::size_t>(Hasta(30)), 'n') + "\ny más"); },
+            [&] {
+                e.Trazado(Hasta(4) == 0 ? nullptr : Hasta(3) == 0 ? Uno().Trazado() : Nueva());
+            },
+            [&] { conPuntos ? trazado->Item(1)->XPos(Coordenada()) : e.YPos(0); },
+            [&] { conPuntos ? trazado->Remove(1) : e.XPos(0); },
+            [&] { Uno().Trazado(Nueva()), trazado ? void(trazado->Add(Coordenada(), 9)) : void(); },
+            [&] { elementos->Remove(1 + Hasta(elementos->Count())), Agrega(); },
+            [&] { Agrega(); }};
+        cambios[Hasta(static_cast<int>(std::size(cambios)))]();
     }
 
   private:
-    Elemento& Otra() { return *elementos->Item(1 + Hasta(elementos->Count())); }
+    Elemento& Uno() { return *elementos->Item(1 + Hasta(elementos->Count())); }
     TipoElemento Tipo() { return static_cast<TipoElemento>(Hasta(40) == 0 ? -1 : Hasta(17)); }
-    // Short, as most are.
     std::shared_ptr<Puntos> Nueva() {
         auto trazado = std::make_shared<Puntos>();
         const float x = Coordenada(), y = Coordenada();
