@@ -150,7 +150,10 @@ void Lienzo::Traza() {
         return;
     }
     if (Invierte()) {
-        TrazaUnaVez();
+        if (n == 2 && pluma().DrawStyle == ESTILO_SOLIDO)
+            InvierteTramo(cadena_[0], cadena_[1]);
+        else
+            TrazaUnaVez();
         return;
     }
     if (n == 2) {
@@ -163,6 +166,55 @@ void Lienzo::Traza() {
     } else {
         pintor_.drawPolyline(cadena_.data(), n);
     }
+}
+
+// By hand: where an area has many rows Qt hands it out to other threads, which takes longer than inverting
+// it, and the outlines of a drag are drawn at every movement of the mouse.
+void Lienzo::InviertePixeles(const QRect& zona) {
+    const QRect dentro = zona & imagen_.rect();
+    for (int y = dentro.top(); y <= dentro.bottom(); ++y) {
+        // The painter holds the image: it must not be given other memory.
+        auto* fila = const_cast<QRgb*>(reinterpret_cast<const QRgb*>(imagen_.constScanLine(y)));
+        for (int x = dentro.left(); x <= dentro.right(); ++x)
+            fila[x] ^= 0x00FFFFFF;
+    }
+}
+
+// A straight stroke: for each pixel of its longer side as many as the pen is wide, the same from either end.
+void Lienzo::InvierteTramo(QPointF a, QPointF b) {
+    const int ancho = static_cast<int>(AnchoDePluma());
+    const bool tendido = std::abs(b.x() - a.x()) >= std::abs(b.y() - a.y());
+    if (!tendido) {
+        a = a.transposed();
+        b = b.transposed();
+    }
+    if (a.x() > b.x()) std::swap(a, b);
+    const double pendiente = b.x() > a.x() ? (b.y() - a.y()) / (b.x() - a.x()) : 0;
+    const int largo = tendido ? imagen_.width() : imagen_.height();
+    const int desde = std::max(0, static_cast<int>(std::floor(a.x())));
+    const int hasta = std::min(largo - 1, static_cast<int>(std::floor(b.x())));
+    for (int i = desde; i <= hasta; ++i) {
+        const double medio = a.y() + std::clamp(i + 0.5 - a.x(), 0.0, b.x() - a.x()) * pendiente;
+        const int j = static_cast<int>(std::floor(medio - (ancho - 1) / 2.0));
+        InviertePixeles(tendido ? QRect(i, j, 1, ancho) : QRect(j, i, ancho, 1));
+    }
+}
+
+// The outline of a box, whose sides do not overlap.
+void Lienzo::InvierteCaja(QPointF a, QPointF b) {
+    const int ancho = static_cast<int>(AnchoDePluma());
+    const auto borde = [&](double v) { return static_cast<int>(std::floor(v - (ancho - 1) / 2.0)); };
+    const QRect fuera(QPoint(borde(a.x()), borde(a.y())),
+                      QPoint(borde(b.x()) + ancho - 1, borde(b.y()) + ancho - 1));
+    if (fuera.width() <= 2 * ancho || fuera.height() <= 2 * ancho) {
+        InviertePixeles(fuera);
+        return;
+    }
+    const int lado = fuera.height() - 2 * ancho;
+    InviertePixeles({fuera.left(), fuera.top(), fuera.width(), ancho});
+    InviertePixeles({fuera.left(), fuera.bottom() - ancho + 1, fuera.width(), ancho});
+    InviertePixeles({fuera.left(), fuera.top() + ancho, ancho, lado});
+    InviertePixeles({fuera.right() - ancho + 1, fuera.top() + ancho, ancho, lado});
 }
 
 // The stroke as one area, so that no pixel is inverted twice where it crosses or covers itself.
@@ -220,7 +272,10 @@ void Lienzo::Caja(PuntoXY esquina, PuntoXY opuesta) {
     }
     cadena_ = {caja.topLeft(), caja.topRight(), caja.bottomRight(), caja.bottomLeft(), caja.topLeft()};
     Ajusta(cadena_);
-    Traza();
+    if (Invierte() && pluma().DrawStyle == ESTILO_SOLIDO)
+        InvierteCaja(cadena_[0], cadena_[2]);
+    else
+        Traza();
 }
 
 void Lienzo::Circle(PuntoXY centro, float radio) {

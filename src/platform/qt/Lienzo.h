@@ -57,6 +57,9 @@ class Lienzo : public SuperficieQt {
     void Ajusta(std::vector<QPointF>& puntos) const;
     void Traza();
     void TrazaUnaVez();
+    void InviertePixeles(const QRect& zona);
+    void InvierteTramo(QPointF a, QPointF b);
+    void InvierteCaja(QPointF a, QPointF b);
     void TrazaLejana();
     void AsientaPuntos();
 
