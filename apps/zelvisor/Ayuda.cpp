@@ -12,6 +12,7 @@ namespace zel {
 namespace {
 
 constexpr QSize TAMANYO{760, 660};
+constexpr double PARTE_DE_LA_PANTALLA = 0.9;  // at most; the frame takes some
 
 // A row without a second text is a heading.
 struct Fila {
@@ -98,7 +99,7 @@ Ayuda::Ayuda(QWidget* padre) : QDialog(padre) {
     botones->button(QDialogButtonBox::Close)->setText(QStringLiteral("Cerrar"));
     connect(botones, &QDialogButtonBox::rejected, this, &QDialog::reject);
     columna->addWidget(botones);
-    resize(TAMANYO.boundedTo(screen()->availableSize()));
+    resize(TAMANYO.boundedTo(screen()->availableSize() * PARTE_DE_LA_PANTALLA));
 }
 
 }  // namespace zel

@@ -30,6 +30,7 @@ constexpr double PASO = 0.1;  // of the visible width or height
 constexpr double GRADOS_POR_MUESCA = 120;
 constexpr int MIRA_CAMBIOS_MS = 200;
 constexpr QSize TAMANYO{1280, 860};
+constexpr double PARTE_DE_LA_PANTALLA = 0.9;  // at most; the frame takes some
 const QString GEOMETRIA = QStringLiteral("ventana/geometria");
 
 // The one local file among what is dragged; empty when it is anything else.
@@ -51,7 +52,7 @@ VentanaPrincipal::VentanaPrincipal()
     connect(&documentos_, &Documentos::Cambiado, this, &VentanaPrincipal::PonTitulo);
     connect(&documentos_, &Documentos::CargaCambiada, menuBar(), &QWidget::setDisabled);
     PonTitulo();
-    resize(TAMANYO.boundedTo(screen()->availableSize()));
+    resize(TAMANYO.boundedTo(screen()->availableSize() * PARTE_DE_LA_PANTALLA));
     restoreGeometry(Ajustes().value(GEOMETRIA).toByteArray());
     esquema_->setFocus();
 }
