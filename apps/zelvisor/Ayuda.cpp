@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -11,6 +12,7 @@ namespace zel {
 namespace {
 
 constexpr QSize TAMANYO{760, 660};
+constexpr double PARTE_DE_LA_PANTALLA = 0.9;  // at most; the frame takes some
 
 // A row without a second text is a heading.
 struct Fila {
@@ -41,6 +43,9 @@ constexpr Fila FILAS[] = {
     {"C", "Centra la vista en el elemento seleccionado"},
     {"Alt+F10, Alt+F11", "Primera y segunda conexión secundaria del elemento"},
     {"Elementos nuevos", nullptr},
+    {"Clic con un tipo escogido", "Coloca el elemento, o traza: elemento inicial, puntos y elemento final"},
+    {"Botón derecho al trazar",
+     "Coloca la central, la aportación, el retorno o la subcuenca; en los demás, quita el último punto"},
     {"Mayús+N, E, D, A", "Nudo, embalse, demanda, acuífero"},
     {"Mayús+1 a Mayús+5", "Conducción de cada tipo"},
     {"Mayús+R, B, T, C", "Recarga, bombeo, toma, central hidroeléctrica"},
@@ -94,7 +99,7 @@ Ayuda::Ayuda(QWidget* padre) : QDialog(padre) {
     botones->button(QDialogButtonBox::Close)->setText(QStringLiteral("Cerrar"));
     connect(botones, &QDialogButtonBox::rejected, this, &QDialog::reject);
     columna->addWidget(botones);
-    resize(TAMANYO);
+    resize(TAMANYO.boundedTo(screen()->availableSize() * PARTE_DE_LA_PANTALLA));
 }
 
 }  // namespace zel

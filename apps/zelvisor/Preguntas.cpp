@@ -1,12 +1,24 @@
 #include "Preguntas.h"
 
 #include <QGuiApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 
 namespace zel {
 
 namespace {
+
+constexpr int ANCHO_MAXIMO = 500;
+
+// The box is as wide as its first text, and would break the lines of the second there.
+void DaAnchoAlDetalle(const QMessageBox& caja) {
+    auto* detalle = caja.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+    if (!detalle) return;
+    const QSize lineas = detalle->fontMetrics().size(0, caja.informativeText());
+    detalle->setMinimumWidth(std::min(lineas.width() + 1, ANCHO_MAXIMO));
+}
 
 void Prepara(QMessageBox& caja, const QString& pregunta, const QString& detalle) {
     caja.setWindowTitle(QGuiApplication::applicationDisplayName());
@@ -14,6 +26,7 @@ void Prepara(QMessageBox& caja, const QString& pregunta, const QString& detalle)
     caja.setTextFormat(Qt::PlainText);
     caja.setText(pregunta);
     caja.setInformativeText(detalle);
+    DaAnchoAlDetalle(caja);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QTimer>
 #include <QWheelEvent>
 #include <cmath>
@@ -28,6 +29,8 @@ constexpr double ALEJA = 2.0;
 constexpr double PASO = 0.1;  // of the visible width or height
 constexpr double GRADOS_POR_MUESCA = 120;
 constexpr int MIRA_CAMBIOS_MS = 200;
+constexpr QSize TAMANYO{1280, 860};
+constexpr double PARTE_DE_LA_PANTALLA = 0.9;  // at most; the frame takes some
 const QString GEOMETRIA = QStringLiteral("ventana/geometria");
 
 // The one local file among what is dragged; empty when it is anything else.
@@ -49,7 +52,7 @@ VentanaPrincipal::VentanaPrincipal()
     connect(&documentos_, &Documentos::Cambiado, this, &VentanaPrincipal::PonTitulo);
     connect(&documentos_, &Documentos::CargaCambiada, menuBar(), &QWidget::setDisabled);
     PonTitulo();
-    resize(1280, 860);
+    resize(TAMANYO.boundedTo(screen()->availableSize() * PARTE_DE_LA_PANTALLA));
     restoreGeometry(Ajustes().value(GEOMETRIA).toByteArray());
     esquema_->setFocus();
 }
@@ -153,6 +156,13 @@ void VentanaPrincipal::PonTitulo() {
     QString nombre = documentos_.Nombre();
     nombre.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
     setWindowTitle(nombre + QStringLiteral("[*] - ") + QGuiApplication::applicationDisplayName());
+}
+
+// The control was first laid out smaller: what an empty schematic shows is all there is of it now.
+void VentanaPrincipal::showEvent(QShowEvent* evento) {
+    QMainWindow::showEvent(evento);
+    if (evento->spontaneous() || esquema_->GetElementos()->Count() > 0) return;
+    DiloSiFalla([&] { esquema_->ResizeGrafo(); });
 }
 
 void VentanaPrincipal::closeEvent(QCloseEvent* evento) {

@@ -24,6 +24,7 @@ class VentanaPrincipal : public QMainWindow {
 
   protected:
     void wheelEvent(QWheelEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
     void dragEnterEvent(QDragEnterEvent* evento) override;
     void dropEvent(QDropEvent* evento) override;

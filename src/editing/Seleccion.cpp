@@ -36,13 +36,16 @@ void Seleccion::Pulsa(float X, float Y) {
         Deselecciona();
         trabajo_.bElementoYaSeleccionado = false;
         trabajo_.sTextoSeleccion.clear();
+        estados_.PromptDePreparado();
         return;
     }
     trabajo_.bBotonPulsadoSobreElemento = true;
-    if (hallado != trabajo_.elemSeleccionado) trabajo_.bElementoYaSeleccionado = false;
+    const bool esOtro = hallado != trabajo_.elemSeleccionado;
+    if (esOtro) trabajo_.bElementoYaSeleccionado = false;
     Deselecciona();
     trabajo_.elemSeleccionado = hallado;
     pintado_.SombreaElemento(hallado);
+    if (esOtro) estados_.PromptDePreparado();
     trabajo_.sTextoSeleccion = "[" + std::to_string(hallado->gfCodSIG()) + "] " + hallado->Nombre();
     anfitrion_.ElementoSeleccionado(hallado->gfCodSIG());
 }

@@ -224,6 +224,7 @@ void Teclado::Escapa(std::int16_t) {
         case E_PREPARADO:
             trabajo_.elemSeleccionado.reset();
             trabajo_.bElementoYaSeleccionado = false;
+            estados_.PromptDePreparado();
             break;
         case E_DIBUJANDO:
         case E_MOVER_ELEMENTO:

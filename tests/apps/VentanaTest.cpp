@@ -11,9 +11,11 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <filesystem>
 
 #include "VentanaPrincipal.h"
@@ -147,6 +149,13 @@ TEST_F(Ventana, ClosingWithChangesAsksWhatIsToBecomeOfThem) {
         EXPECT_EQ(ventana->isVisible(), !caso.seCierra) << caso.boton.toStdString();
         EXPECT_EQ(LeeArchivo("obra.xml").find("Cambiado") != std::string::npos, caso.seGuarda);
     }
+}
+
+TEST_F(Ventana, OpensInsideTheScreenWithAllOfTheEmptySchematic) {
+    EXPECT_EQ(ventana->size().boundedTo(ventana->screen()->availableSize()), ventana->size());
+    const auto textos = esquema->findChildren<QLabel*>();
+    EXPECT_TRUE(std::any_of(textos.begin(), textos.end(),
+                            [](QLabel* t) { return t->text() == u"Región mostrada: 100 %"_s; }));
 }
 
 TEST_F(Ventana, ANewSchematicHasNoFileUntilItIsSaved) {

@@ -56,9 +56,11 @@ TEST_F(Teclas, EachActsByTheStateAndItsCompanions) {
 }
 
 TEST_F(Teclas, EscapeDropsTheSelectionAndRepaintsWhateverTheState) {
-    Selecciona(1);
+    Pulsa(50, 50);
+    EXPECT_EQ(anfitrion.textos[1], Elem(1)->Nombre());
     trabajo.bElementoYaSeleccionado = true;
     Suelta(27);
+    EXPECT_EQ(anfitrion.textos[1], "Preparado") << "its name would stay";
     trabajo.iEstado = 14;
     Suelta(27);
     EXPECT_EQ(panel.limpiezas, 3);
