@@ -73,14 +73,11 @@ void MaquinaEstados::Pon(Fila fila) {
     Cursor(fila.cursor);
 }
 
-// Going from one zoom tool to the other leads back to what was before both.
-void MaquinaEstados::EntraVolver(Fila, std::int32_t viejo, std::int32_t) {
-    const bool entreZooms = viejo == E_ZOOM && trabajo_.iEstadoAnterior == E_ZOOM;
-    Estado(entreZooms ? antesDelZoom_ : trabajo_.iEstadoAnterior, 1);
+void MaquinaEstados::EntraVolver(Fila, std::int32_t, std::int32_t) {
+    Estado(trabajo_.iEstadoAnterior, 1);
 }
 
 void MaquinaEstados::EntraZoom(Fila fila, std::int32_t viejo, std::int32_t bRefrescar) {
-    if (viejo != E_ZOOM) antesDelZoom_ = viejo;
     Pon(fila);
     if (anfitrion_.BotonPulsado(Barra::Vista, "zoommas"))
         Cursor(CURSOR_ACERCAR);

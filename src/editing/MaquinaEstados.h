@@ -77,7 +77,6 @@ class MaquinaEstados {
     Vista& vista_;
     Conexiones& conexiones_;
     Anfitrion& anfitrion_;
-    std::int32_t antesDelZoom_ = E_PREPARADO;
     LectorDeCambios marcas_;  // whoever has not changed since it last read has none
 };
 

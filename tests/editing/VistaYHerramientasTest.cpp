@@ -165,15 +165,6 @@ TEST_F(Herramienta, TheTwoZoomsHaveTheirCursors) {
     }
 }
 
-TEST_F(Herramienta, EscapeLeavesBothZoomsForWhatWasBefore) {
-    herramientas.Toolbar1_ButtonClick("nudo");
-    for (const char* clave : {"zoommas", "zoommenos"})
-        herramientas.Toolbar2_ButtonClick(clave);
-    std::int16_t escape = 27, mayus = 0;
-    teclado.Panel_KeyUp(escape, mayus);
-    EXPECT_EQ(std::to_string(trabajo.iEstado) + Pulsados(), "2nudo|");
-}
-
 TEST_F(Herramienta, LosingTheFocusAbandonsADrag) {
     Pon({Simbolo(ctNudo, {150, 80})});
     const std::tuple<std::int32_t, std::int32_t, int> filas[] = {
