@@ -40,11 +40,15 @@ void Seleccion::Pulsa(float X, float Y) {
     }
     trabajo_.bBotonPulsadoSobreElemento = true;
     if (hallado != trabajo_.elemSeleccionado) trabajo_.bElementoYaSeleccionado = false;
-    Deselecciona();
-    trabajo_.elemSeleccionado = hallado;
-    pintado_.SombreaElemento(hallado);
-    trabajo_.sTextoSeleccion = "[" + std::to_string(hallado->gfCodSIG()) + "] " + hallado->Nombre();
+    Toma(hallado);
     anfitrion_.ElementoSeleccionado(hallado->gfCodSIG());
+}
+
+void Seleccion::Toma(const std::shared_ptr<Elemento>& elem) {
+    Deselecciona();
+    trabajo_.elemSeleccionado = elem;
+    trabajo_.sTextoSeleccion = "[" + std::to_string(elem->gfCodSIG()) + "] " + elem->Nombre();
+    pintado_.SombreaElemento(elem);
 }
 
 void Seleccion::EmpiezaArrastre(float X, float Y) {

@@ -1,4 +1,7 @@
 // Keys as they come from the platform: shortcuts, repetitions, the host that changes them.
+#include <QAccessible>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QShortcut>
 #include <QWheelEvent>
 
@@ -20,6 +23,20 @@ class TecladoDelEsquema : public EnVentana {
     void Envia(QEvent::Type tipo, int tecla, bool repetida = false) {
         QKeyEvent evento(tipo, tecla, {}, {}, repetida);
         QApplication::sendEvent(Panel(), &evento);
+    }
+    // Where the menu opens, from the panel's corner; nothing when it does not.
+    std::optional<QPoint> Menu(QContextMenuEvent::Reason motivo) {
+        QContextMenuEvent evento(motivo, {1, 1}, {1, 1});
+        QApplication::sendEvent(Panel(), &evento);
+        EXPECT_TRUE(evento.isAccepted());
+        return DondeSeHaAbierto();
+    }
+    std::optional<QPoint> DondeSeHaAbierto() const {
+        auto* menu = Parte<QMenu>("menuContextual");
+        if (!menu->isVisible()) return std::nullopt;
+        const QPoint lugar = Panel()->mapFromGlobal(menu->pos());
+        menu->close();
+        return lugar;
     }
     bool Marcado(const char* boton) const { return Parte<QAbstractButton>(boton)->isChecked(); }
 };
@@ -74,6 +91,44 @@ TEST_F(TecladoDelEsquema, KeysClickTheButtonsThatCanBeClicked) {
     esquema.AnulaAgregarElementos();
     QTest::keyClick(Panel(), Qt::Key_E, Qt::ShiftModifier);
     EXPECT_EQ(Estado(1), "Norte");
+}
+
+TEST_F(TecladoDelEsquema, TheMenuKeyOpensTheMenuBesideTheSelectionWhereverTheMouseIs) {
+    using enum QContextMenuEvent::Reason;
+    const auto enNorte = EnElPanel(0, 0);
+    EXPECT_LE((*Menu(Keyboard) - enNorte).manhattanLength(), 2);
+    QTest::keyPress(Panel(), Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_LE((DondeSeHaAbierto().value_or(QPoint()) - enNorte).manhattanLength(), 2);
+    EXPECT_EQ(Menu(Mouse), std::nullopt) << "the press has opened it already";
+    esquema.DesplazaVista(2, 0);
+    EXPECT_EQ(Menu(Keyboard), Panel()->rect().center()) << "out of sight";
+    Pulsa("mano");
+    EXPECT_EQ(Menu(Keyboard), std::nullopt);
+}
+
+std::string oido;  // by the screen reader
+void Oye(QAccessibleEvent* evento) {
+    if (evento->type() == QAccessible::DescriptionChanged)
+        oido += evento->accessibleInterface()->text(QAccessible::Description).toStdString() + "; ";
+}
+
+TEST_F(TecladoDelEsquema, AScreenReaderHearsWhatIsSelectedHoweverThatWas) {
+    QAccessible::setActive(true);
+    const auto anterior = QAccessible::installUpdateHandler(Oye);
+    oido.clear();
+    QTest::keyClick(Panel(), Qt::Key_PageDown);
+    QTest::mouseMove(Panel(), {5, 5});
+    QTest::mouseClick(Panel(), Qt::LeftButton, {}, EnElPanel(0, 0));
+    esquema.NombreElemento(u"Presa"_s);
+    Envia(QEvent::KeyPress, Qt::Key_Escape);
+    Envia(QEvent::KeyRelease, Qt::Key_Escape);
+    esquema.Seleccionar(2);
+    esquema.BorrarElemento();
+    QAccessible::installUpdateHandler(anterior);
+    QAccessible::setActive(false);
+    EXPECT_EQ(oido,
+              "Nudo nº 2, «Sur»; Nudo nº 1, «Norte»; Nudo nº 1, «Presa»; Ningún elemento seleccionado; "
+              "Nudo nº 2, «Sur»; Ningún elemento seleccionado; ");
 }
 
 }  // namespace
