@@ -203,6 +203,10 @@ class Esquema : public QFrame {
   signals:
     // In a direct connection the host may change the arguments; the control goes on with what it finds.
     // Keys are virtual key codes; Shift is 1 Shift + 2 Ctrl + 4 Alt; buttons 1 left, 2 right, 4 middle.
+    // A press raises MouseDown, then ElementoSeleccionado when it selects an element or completes a new one,
+    // and then CreacionNuevoElemento. A release raises ElementoMovido or ElementoModificado when it ends a
+    // drag, then Click. Instead of the second press of a double click come DblClick and EditarElemento.
+    // bHabidoCambios and the state of the control are those after the change already.
     void Click();
     void DblClick();
     void KeyDown(qint16& KeyCode, qint16& Shift);

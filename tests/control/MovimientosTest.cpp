@@ -187,9 +187,10 @@ TEST_F(Movimientos, TheInnerPointsOfATraceAreMovedOneAfterTheOther) {
     for (const auto& [hasta, aviso] : filas) {
         dialogos.Espera(aviso);
         const std::string antes = Traza_(5);
+        const QImage imagen = Imagen();
         Arrastra({{62, 90}, {70, 90}, hasta});
         EXPECT_EQ(Traza_(5), antes);
-        EXPECT_EQ(Imagen(), Imagen());
+        EXPECT_EQ(Imagen(), imagen);
     }
     Clic({62, 90}, Qt::RightButton);
     EXPECT_EQ(Prompt(), "L5");
