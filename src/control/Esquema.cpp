@@ -341,7 +341,7 @@ bool Esquema::eventFilter(QObject* objeto, QEvent* evento) {
     if (partes_->AtiendeTeclasDe(objeto)) {
         const QPointer<Esquema> vivo(this);
         partes_->AtiendeTeclado(*evento);
-        if (!vivo) return true;
+        if (!vivo || partes_->SeQuedaAqui(objeto, *evento)) return true;
     }
     return QFrame::eventFilter(objeto, evento);
 }

@@ -99,6 +99,11 @@ PuntoXY PanelDibujo::EnElMundo(QPointF punto) const {
             static_cast<float>(lienzo_.ScaleTop() + punto.y() / height() * lienzo_.ScaleHeight())};
 }
 
+QPointF PanelDibujo::EnElPanel(PuntoXY punto) const {
+    return {(double{punto.X} - lienzo_.ScaleLeft()) / lienzo_.ScaleWidth() * width(),
+            (double{punto.Y} - lienzo_.ScaleTop()) / lienzo_.ScaleHeight() * height()};
+}
+
 void PanelDibujo::mousePressEvent(QMouseEvent* evento) {
     const PuntoXY p = EnElMundo(evento->position());
     hayClic_ = true;

@@ -24,6 +24,9 @@ class PanelDibujo : public QWidget {
     float AnchoMm() const;
     float AltoMm() const;
 
+    // Where a point of the world is on the panel, or would be beyond it; pixels.
+    QPointF EnElPanel(PuntoXY punto) const;
+
   signals:
     // The panel has a new size: the surface is blank and waits for a layout and a repaint.
     void Redimensionado();

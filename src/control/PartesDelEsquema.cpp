@@ -6,6 +6,7 @@
 
 #include "control/CursoresQt.h"
 #include "editing/ConduccionesMovidas.h"
+#include "editing/Nombres.h"
 #include "platform/Guardia.h"
 
 namespace zel {
@@ -48,7 +49,10 @@ Esquema::Partes::Partes(Esquema& dueno)
       seleccion(panel->lienzo(), trabajo, pintado, localizador, estados, gestosDeSubsistema, *this),
       creacion(panel->lienzo(), documento, trabajo, refresco, vista, avisos, pintado, localizador, estados,
                *this),
-      teclado(panel->lienzo(), documento, trabajo, refresco, vista, desplazamiento, creacion, estados, *this),
+      seleccionConTeclas(panel->lienzo(), documento, trabajo, refresco, vista, conexiones, estados, seleccion,
+                         *this),
+      teclado(panel->lienzo(), documento, trabajo, refresco, vista, desplazamiento, creacion,
+              seleccionConTeclas, estados, *this),
       arrastreElemento(panel->lienzo(), documento, trabajo, refresco, vista, avisos, pintado, localizador,
                        conexiones, estados, *this),
       arrastreEtiqueta(panel->lienzo(), documento, trabajo, refresco, vista, avisos, pintado, localizador,
@@ -98,7 +102,11 @@ void Esquema::Partes::Conecta() {
     boton("cmdImagenFondoVer", [this] { imagen.cmdImagenFondoVer_Click(); });
     boton("cmdImagenFondoAceptar", [this] { imagen.cmdImagenFondoAceptar_Click(); });
 
-    panel->lienzo().AlRefrescar([this] { pintado.Panel_Paint(); });
+    // Whatever selects ends in an event or in a repaint.
+    panel->lienzo().AlRefrescar([this] {
+        DiSeleccion();
+        pintado.Panel_Paint();
+    });
     panel->lienzo().AlCambiarPuntero([this](std::int16_t puntero, std::int32_t numero) {
         panel->setCursor(CursorDe(puntero, numero, panel->devicePixelRatioF()));
     });
@@ -178,6 +186,18 @@ bool Esquema::Partes::BotonPulsado(Barra barra, std::string_view clave) const {
 
 void Esquema::Partes::BarraElementosActiva(bool activa) {
     toolBar1->Enabled(activa);
+}
+
+void Esquema::Partes::DiSeleccion() noexcept try {
+    if (trabajo.bTerminado) return;
+    const auto& e = trabajo.elemSeleccionado;
+    const bool hay = e && documento.colElementos->Contiene(e.get());
+    std::string ahora = hay ? EnPalabras(*documento.colElementos, *e) : "Ningún elemento seleccionado";
+    if (ahora == dicho) return;
+    dicho = std::move(ahora);
+    panel->setAccessibleDescription(QString::fromStdString(dicho));
+} catch (...) {
+    dicho.clear();
 }
 
 void Esquema::Partes::RefrescaCuandoHayaCalma() {

@@ -69,6 +69,7 @@ struct Esquema::Partes : public Anfitrion {
             emit esquema.ErrorEnEvento(fallo.Number(), QString::fromStdString(fallo.Source()),
                                        QString::fromStdString(fallo.Description()));
         }
+        DiSeleccion();
     }
     // The same for what the platform is in the middle of: boxes come when it is through.
     template <typename Accion>
@@ -110,7 +111,12 @@ struct Esquema::Partes : public Anfitrion {
     void Conecta();
     void ConectaBarras();
     void ConectaRaton();
+    // Tells screen readers which element is selected, if that is not what they know already.
+    void DiSeleccion() noexcept;
     AspectoDelMenu AspectoDelMenuAhora() const;
+    void AbreMenu(QPoint enLaPantalla);
+    // For the selected element, beside it if it is in sight.
+    void LanzaMenuConTeclado();
     void AlElegirEnElMenu(ItemDeMenu item);
     void EjecutaDelMenu(ItemDeMenu item);
 
@@ -124,6 +130,7 @@ struct Esquema::Partes : public Anfitrion {
     // What is typed at the panel or a button, and what tells that typing is over; see TeclasDelEsquema.cpp.
     bool AtiendeTeclasDe(const QObject* objeto) const;
     void AtiendeTeclado(const QEvent& evento);
+    bool SeQuedaAqui(const QObject* objeto, const QEvent& evento) const;
     void TeclaPulsada(const QKeyEvent& tecla);
     void TeclaSoltada(const QKeyEvent& tecla);
 
@@ -158,6 +165,7 @@ struct Esquema::Partes : public Anfitrion {
     GestosDeSubsistema gestosDeSubsistema;
     Seleccion seleccion;
     Creacion creacion;
+    SeleccionConTeclas seleccionConTeclas;
     Teclado teclado;
     ArrastreElemento arrastreElemento;
     ArrastreEtiqueta arrastreEtiqueta;
@@ -176,6 +184,7 @@ struct Esquema::Partes : public Anfitrion {
     bool seHaMostrado = false;
     bool ajustaAlMostrar = false;
     QSet<quint64> teclasVistas;  // held, and pressed here
+    std::string dicho;           // to screen readers
 };
 
 template <typename Accion>

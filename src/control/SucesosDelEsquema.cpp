@@ -66,9 +66,23 @@ void Esquema::Partes::HazClic(Barra barra, std::string_view clave) {
 
 // --- The menu ---------------------------------------------------------------------------------------------
 
-void Esquema::Partes::LanzaMenu() try {
+void Esquema::Partes::LanzaMenu() {
+    AbreMenu(QCursor::pos());
+}
+
+void Esquema::Partes::LanzaMenuConTeclado() {
+    if (trabajo.iEstado != E_PREPARADO && trabajo.iEstado != E_SUBSISTEMA) return;
+    QPointF lugar = panel->rect().center();
+    if (const auto& e = trabajo.elemSeleccionado) {
+        const QPointF suyo = panel->EnElPanel({e->XPos(), e->YPos()});
+        if (QRectF(panel->rect()).contains(suyo)) lugar = suyo;
+    }
+    AbreMenu(panel->mapToGlobal(lugar.toPoint()));
+}
+
+void Esquema::Partes::AbreMenu(QPoint enLaPantalla) try {
     refresco.PedirRefresco();
-    menu.Abre(QCursor::pos());
+    menu.Abre(enLaPantalla);
 } catch (...) {
     LanzaErrorVisor(trabajo.iEstado, ". ErrLanzaMenu (Esquema)");
 }

@@ -1,11 +1,16 @@
 // The keys on their way to the panel or to a button: the host sees them first, then the editor.
 
+#include <QContextMenuEvent>
+
 #include "control/PartesDelEsquema.h"
 #include "control/Teclas.h"
 
 namespace zel {
 
 namespace {
+
+constexpr qint16 F10 = 121;
+constexpr qint16 CON_MAYUS = 1;
 
 // The same when it is pressed and when it is released, whatever it types by then.
 quint64 Identidad(const QKeyEvent& tecla) {
@@ -14,12 +19,21 @@ quint64 Identidad(const QKeyEvent& tecla) {
     return posicion != 0 ? posicion : SIN_POSICION + static_cast<quint64>(CodigoDeTecla(tecla));
 }
 
+bool EsDelTeclado(const QEvent& menu) {
+    return static_cast<const QContextMenuEvent&>(menu).reason() == QContextMenuEvent::Keyboard;
+}
+
 }  // namespace
 
 // Once for each key: from a button it goes on to its bar.
 bool Esquema::Partes::AtiendeTeclasDe(const QObject* objeto) const {
     const bool esBoton = objeto->parent() == toolBar1 || objeto->parent() == toolBar2;
     return objeto == panel || esBoton;
+}
+
+// The menu is the panel's own, and not to be asked for again around it.
+bool Esquema::Partes::SeQuedaAqui(const QObject* objeto, const QEvent& evento) const {
+    return evento.type() == QEvent::ContextMenu && (objeto == panel || EsDelTeclado(evento));
 }
 
 void Esquema::Partes::AtiendeTeclado(const QEvent& evento) {
@@ -33,6 +47,10 @@ void Esquema::Partes::AtiendeTeclado(const QEvent& evento) {
             break;
         case QEvent::Wheel:
             EnEntrada([this] { teclado.OtraEntrada(); });
+            break;
+        case QEvent::ContextMenu:
+            // The mouse's has had its answer when the button was pressed.
+            if (EsDelTeclado(evento)) EnEntrada([this] { LanzaMenuConTeclado(); });
             break;
         case QEvent::FocusOut:
             teclasVistas.clear();
@@ -56,6 +74,8 @@ void Esquema::Partes::TeclaPulsada(const QKeyEvent& tecla) {
         Emitido([&] { emit esquema.KeyDown(codigo, mayus); });
         // Ctrl, held, repeats itself when the wheel has ended what it had begun.
         if (!tecla.isAutoRepeat()) teclado.Panel_KeyDown(codigo, mayus);
+        // X11 tells the menu key as a request for the menu, this one not.
+        if (!tecla.isAutoRepeat() && codigo == F10 && mayus == CON_MAYUS) LanzaMenuConTeclado();
         qint16 ascii = CaracterDeTecla(tecla);
         if (ascii != 0) emit esquema.KeyPress(ascii);
     });

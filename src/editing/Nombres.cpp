@@ -15,6 +15,16 @@ constexpr std::array<std::string_view, NUMERO_DE_TIPOS> CLAVES = {
     "conduccion3", "conduccion4", "conduccion5", "recarga",  "bombeo",      "toma",
     "centralHE",   "aportacion",  "retorno",     "subcuenca"};
 
+std::string TipoYNumero(const Elemento& e) {
+    const std::string_view tipo = NombreDeTipo(e.Tipo());
+    return std::string(tipo.empty() ? "Elemento" : tipo) + " nº " + std::to_string(e.KeyPant());
+}
+
+std::string Entrecomillado(const Elemento& e, std::string_view separador) {
+    if (e.Nombre().empty()) return {};
+    return std::string(separador) + "«" + e.Nombre() + "»";
+}
+
 }  // namespace
 
 std::int16_t Add_KeyPant(Documento& documento, TipoElemento tipo) {
@@ -28,6 +38,20 @@ std::string Add_Nombre(Documento& documento, TipoElemento tipo, bool sinNumero, 
     std::string nombre(NombreDeTipo(tipo));
     if (!sinNumero) nombre += " nº " + std::to_string(Add_KeyPant(documento, tipo));
     return nombre;
+}
+
+std::string EnPalabras(const Elementos& elementos, const Elemento& elem) {
+    std::string frase = TipoYNumero(elem) + Entrecomillado(elem, ", ");
+    if (!EsLineal(elem.Tipo())) return frase;
+    std::string extremos;
+    const auto extremo = [&](const char* preposicion, std::int32_t codigo) {
+        const auto e = elementos.ItemCodSIG(codigo);
+        if (e && e.get() != &elem) extremos += preposicion + TipoYNumero(*e) + Entrecomillado(*e, " ");
+    };
+    extremo(" de ", elem.ElemIni());
+    extremo(" a ", elem.ElemFin());
+    if (!extremos.empty()) frase += "," + extremos;
+    return frase;
 }
 
 TipoElemento TipoDeClave(std::string_view clave) noexcept {

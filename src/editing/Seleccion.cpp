@@ -42,12 +42,16 @@ void Seleccion::Pulsa(float X, float Y) {
     trabajo_.bBotonPulsadoSobreElemento = true;
     const bool esOtro = hallado != trabajo_.elemSeleccionado;
     if (esOtro) trabajo_.bElementoYaSeleccionado = false;
-    Deselecciona();
-    trabajo_.elemSeleccionado = hallado;
-    pintado_.SombreaElemento(hallado);
+    Toma(hallado);
     if (esOtro) estados_.PromptDePreparado();
-    trabajo_.sTextoSeleccion = "[" + std::to_string(hallado->gfCodSIG()) + "] " + hallado->Nombre();
     anfitrion_.ElementoSeleccionado(hallado->gfCodSIG());
+}
+
+void Seleccion::Toma(const std::shared_ptr<Elemento>& elem) {
+    Deselecciona();
+    trabajo_.elemSeleccionado = elem;
+    trabajo_.sTextoSeleccion = "[" + std::to_string(elem->gfCodSIG()) + "] " + elem->Nombre();
+    pintado_.SombreaElemento(elem);
 }
 
 void Seleccion::EmpiezaArrastre(float X, float Y) {

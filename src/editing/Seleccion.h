@@ -20,6 +20,9 @@ class Seleccion {
     void Sobrevuela(float X, float Y);
     void Suelta() noexcept;
 
+    // Makes it the selected element and moves the highlight to it; the host is not told.
+    void Toma(const std::shared_ptr<Elemento>& elem);
+
   private:
     void Deselecciona();
     bool SePuedeArrastrar(const std::shared_ptr<Elemento>& elem) const noexcept;

@@ -21,6 +21,8 @@ enum Tecla : std::int16_t {
     RETROCESO = 8,
     CTRL = 17,
     ESCAPE = 27,
+    RE_PAG = 33,
+    AV_PAG = 34,
     IZQUIERDA = 37,
     ARRIBA = 38,
     DERECHA = 39,
@@ -89,6 +91,10 @@ const Teclado::Fila Teclado::FILAS[] = {
     {RETROCESO, ComoSea, Trazando, &Teclado::Retrocede},
     {ESCAPE, ComoSea, Siempre, &Teclado::Escapa},
     {SUPRIMIR, ComoSea, EnPreparado, &Teclado::Borra},
+    {AV_PAG, Sola, EnPreparado, &Teclado::PasaPagina},
+    {RE_PAG, Sola, EnPreparado, &Teclado::PasaPagina},
+    {AV_PAG, ConMayus, EnPreparado, &Teclado::SigueElFlujo},
+    {RE_PAG, ConMayus, EnPreparado, &Teclado::SigueElFlujo},
     {'Z', ComoSea, SinLazo, &Teclado::MuestraTodo},
     {NUMERICO_MAS, ComoSea, SinLazo, &Teclado::Acerca},
     {NUMERICO_MENOS, ComoSea, SinLazo, &Teclado::Aleja},
@@ -101,8 +107,8 @@ const Teclado::Fila Teclado::FILAS[] = {
 };
 
 Teclado::Teclado(Superficie& panel, Documento& documento, Trabajo& trabajo, Refresco& refresco, Vista& vista,
-                 Desplazamiento& desplazamiento, Creacion& creacion, MaquinaEstados& estados,
-                 Anfitrion& anfitrion) noexcept
+                 Desplazamiento& desplazamiento, Creacion& creacion, SeleccionConTeclas& seleccion,
+                 MaquinaEstados& estados, Anfitrion& anfitrion) noexcept
     : panel_(panel),
       documento_(documento),
       trabajo_(trabajo),
@@ -110,6 +116,7 @@ Teclado::Teclado(Superficie& panel, Documento& documento, Trabajo& trabajo, Refr
       vista_(vista),
       desplazamiento_(desplazamiento),
       creacion_(creacion),
+      seleccion_(seleccion),
       estados_(estados),
       anfitrion_(anfitrion) {}
 
@@ -248,6 +255,14 @@ void Teclado::Escapa(std::int16_t) {
 void Teclado::Borra(std::int16_t) {
     anfitrion_.HazClic(Barra::Vista, "borrar");
     refresco_.PedirRefresco();
+}
+
+void Teclado::PasaPagina(std::int16_t KeyCode) {
+    seleccion_.Pasa(KeyCode == AV_PAG);
+}
+
+void Teclado::SigueElFlujo(std::int16_t KeyCode) {
+    seleccion_.SigueElFlujo(KeyCode == AV_PAG);
 }
 
 void Teclado::MuestraTodo(std::int16_t) {

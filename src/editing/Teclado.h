@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "editing/Creacion.h"
+#include "editing/SeleccionConTeclas.h"
 #include "session/Desplazamiento.h"
 
 namespace zel {
@@ -13,8 +14,8 @@ namespace zel {
 class Teclado {
   public:
     Teclado(Superficie& panel, Documento& documento, Trabajo& trabajo, Refresco& refresco, Vista& vista,
-            Desplazamiento& desplazamiento, Creacion& creacion, MaquinaEstados& estados,
-            Anfitrion& anfitrion) noexcept;
+            Desplazamiento& desplazamiento, Creacion& creacion, SeleccionConTeclas& seleccion,
+            MaquinaEstados& estados, Anfitrion& anfitrion) noexcept;
 
     // Ctrl begins the selection one by one. All other keys act when they are released.
     void Panel_KeyDown(std::int16_t& KeyCode, std::int16_t& Shift);
@@ -43,6 +44,8 @@ class Teclado {
     void Retrocede(std::int16_t KeyCode);
     void Escapa(std::int16_t KeyCode);
     void Borra(std::int16_t KeyCode);
+    void PasaPagina(std::int16_t KeyCode);
+    void SigueElFlujo(std::int16_t KeyCode);
     void MuestraTodo(std::int16_t KeyCode);
     void Acerca(std::int16_t KeyCode);
     void Aleja(std::int16_t KeyCode);
@@ -59,6 +62,7 @@ class Teclado {
     Vista& vista_;
     Desplazamiento& desplazamiento_;
     Creacion& creacion_;
+    SeleccionConTeclas& seleccion_;
     MaquinaEstados& estados_;
     Anfitrion& anfitrion_;
     std::optional<EnMano> antesDeCtrl_;

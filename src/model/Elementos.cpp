@@ -8,6 +8,16 @@
 
 namespace zel {
 
+namespace {
+
+// Of one of the collection's own.
+auto LugarDe(const Elementos& elementos, const Elemento& elemento) noexcept {
+    return std::lower_bound(elementos.begin(), elementos.end(), elemento.Orden(),
+                            [](const auto& e, std::uint64_t orden) { return e->Orden() < orden; });
+}
+
+}  // namespace
+
 Elementos::Elementos() try {
 } catch (...) {
     LanzaError(TEXTO_LIBRE, "Error inicialización objeto Elementos");
@@ -112,9 +122,17 @@ bool Elementos::Contiene(const Elemento* elemento) const noexcept {
 }
 
 std::shared_ptr<Elemento> Elementos::Referencia(const Elemento* elemento) const noexcept {
-    if (!Contiene(elemento)) return nullptr;
-    return *std::lower_bound(begin(), end(), elemento->Orden(),
-                             [](const auto& e, std::uint64_t orden) { return e->Orden() < orden; });
+    return Contiene(elemento) ? *LugarDe(*this, *elemento) : nullptr;
+}
+
+std::shared_ptr<Elemento> Elementos::Siguiente(const Elemento* elemento) const noexcept {
+    const auto siguiente = Contiene(elemento) ? LugarDe(*this, *elemento) + 1 : begin();
+    return siguiente == end() ? nullptr : *siguiente;
+}
+
+std::shared_ptr<Elemento> Elementos::Anterior(const Elemento* elemento) const noexcept {
+    const auto lugar = Contiene(elemento) ? LugarDe(*this, *elemento) : end();
+    return lugar == begin() ? nullptr : *(lugar - 1);
 }
 
 void Elementos::Remove(const Variante& vntIndexKey) try { Quita(vntIndexKey); } catch (...) {

@@ -63,6 +63,11 @@ class Elementos : public Objeto {
     bool Contiene(const Elemento* elemento) const noexcept;
     // The collection's own reference to the element; empty when it is not one of its own.
     std::shared_ptr<Elemento> Referencia(const Elemento* elemento) const noexcept;
+    // Its neighbours in the collection's order, empty behind the last and before the first. Of what is none
+    // of the collection's own: the first element, the last one. They cost a search, no pass over the
+    // elements.
+    std::shared_ptr<Elemento> Siguiente(const Elemento* elemento) const noexcept;
+    std::shared_ptr<Elemento> Anterior(const Elemento* elemento) const noexcept;
 
     // The changes of its elements.
     const DiarioDeCambios& Diario() const noexcept { return diario_; }

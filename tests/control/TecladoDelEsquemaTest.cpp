@@ -1,4 +1,7 @@
 // Keys as they come from the platform: shortcuts, repetitions, the host that changes them.
+#include <QAccessible>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QShortcut>
 #include <QWheelEvent>
 
@@ -20,6 +23,14 @@ class TecladoDelEsquema : public EnVentana {
     void Envia(QEvent::Type tipo, int tecla, bool repetida = false) {
         QKeyEvent evento(tipo, tecla, {}, {}, repetida);
         QApplication::sendEvent(Panel(), &evento);
+    }
+    // Where the menu opens for it, from the panel's corner.
+    std::optional<QPoint> Menu(QEvent&& pide) const {
+        QApplication::sendEvent(Panel(), &pide);
+        auto* menu = Parte<QMenu>("menuContextual");
+        const bool abierto = menu->isVisible();
+        menu->close();
+        return abierto ? std::optional(Panel()->mapFromGlobal(menu->pos())) : std::nullopt;
     }
     bool Marcado(const char* boton) const { return Parte<QAbstractButton>(boton)->isChecked(); }
 };
@@ -74,6 +85,30 @@ TEST_F(TecladoDelEsquema, KeysClickTheButtonsThatCanBeClicked) {
     esquema.AnulaAgregarElementos();
     QTest::keyClick(Panel(), Qt::Key_E, Qt::ShiftModifier);
     EXPECT_EQ(Estado(1), "Norte");
+}
+
+TEST_F(TecladoDelEsquema, TheMenuKeyOpensTheMenuBesideTheSelectionWhereverTheMouseIs) {
+    const auto pide = [](auto motivo) { return QContextMenuEvent(motivo, {1, 1}, {1, 1}); };
+    const auto enNorte = Menu(pide(QContextMenuEvent::Keyboard));
+    EXPECT_LE((enNorte.value() - EnElPanel(0, 0)).manhattanLength(), 2);
+    EXPECT_EQ(Menu(QKeyEvent(QEvent::KeyPress, Qt::Key_F10, Qt::ShiftModifier)), enNorte);
+    EXPECT_EQ(Menu(pide(QContextMenuEvent::Mouse)), std::nullopt) << "the press has opened it already";
+    esquema.DesplazaVista(2, 0);
+    EXPECT_EQ(Menu(pide(QContextMenuEvent::Keyboard)), Panel()->rect().center()) << "out of sight";
+    Pulsa("mano");
+    EXPECT_EQ(Menu(pide(QContextMenuEvent::Keyboard)), std::nullopt);
+}
+
+TEST_F(TecladoDelEsquema, AScreenReaderFindsWhatIsSelectedHoweverThatWas) {
+    const auto lee = [this] {
+        return QAccessible::queryAccessibleInterface(Panel())->text(QAccessible::Description).toStdString();
+    };
+    QTest::keyClick(Panel(), Qt::Key_PageDown);
+    EXPECT_EQ(lee(), "Nudo nº 2, «Sur»");
+    QTest::mouseClick(Panel(), Qt::LeftButton, {}, EnElPanel(0, 0));
+    EXPECT_EQ(lee(), "Nudo nº 1, «Norte»");
+    esquema.BorrarElemento();
+    EXPECT_EQ(lee(), "Ningún elemento seleccionado");
 }
 
 }  // namespace

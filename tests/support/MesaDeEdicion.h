@@ -82,7 +82,10 @@ class MesaDeEdicion : public Mesa {
     Seleccion seleccion{panel, trabajo, pintado, localizador, estados, gestosDeSubsistema, anfitrion};
     Creacion creacion{panel,  documento, trabajo,     refresco, vista,
                       avisos, pintado,   localizador, estados,  anfitrion};
-    Teclado teclado{panel, documento, trabajo, refresco, vista, desplazamiento, creacion, estados, anfitrion};
+    SeleccionConTeclas seleccionConTeclas{panel,      documento, trabajo,   refresco, vista,
+                                          conexiones, estados,   seleccion, anfitrion};
+    Teclado teclado{panel,    documento,          trabajo, refresco, vista, desplazamiento,
+                    creacion, seleccionConTeclas, estados, anfitrion};
     ArrastreElemento arrastreElemento{panel,   documento,   trabajo,    refresco, vista,    avisos,
                                       pintado, localizador, conexiones, estados,  anfitrion};
     ArrastreEtiqueta arrastreEtiqueta{panel,  documento, trabajo,     refresco, vista,
