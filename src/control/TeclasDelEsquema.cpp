@@ -57,7 +57,7 @@ void Esquema::Partes::TeclaPulsada(const QKeyEvent& tecla) {
         // Ctrl, held, repeats itself when the wheel has ended what it had begun.
         if (!tecla.isAutoRepeat()) teclado.Panel_KeyDown(codigo, mayus);
         qint16 ascii = CaracterDeTecla(tecla);
-        if (ascii != 0) emit esquema.KeyPress(ascii);
+        if (ascii != 0) Emitido([&] { emit esquema.KeyPress(ascii); });
     });
 }
 
