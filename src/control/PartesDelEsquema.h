@@ -112,6 +112,7 @@ struct Esquema::Partes : public Anfitrion {
     void ConectaRaton();
     AspectoDelMenu AspectoDelMenuAhora() const;
     void AlElegirEnElMenu(ItemDeMenu item);
+    void TerminaGesto();
     void EjecutaDelMenu(ItemDeMenu item);
 
     // The layout: the parts where they belong, the view to the panel's new size.
