@@ -28,7 +28,7 @@ void Adjuntos::Recuerda(const QString& ruta) {
         archivos_[codigo.toInt()] = ajustes.value(codigo).toString();
 }
 
-void Adjuntos::Conserva(const QString& ruta) const {
+bool Adjuntos::Conserva(const QString& ruta) const {
     QSettings ajustes = Ajustes();
     ajustes.remove(GrupoDe(ruta));
     ajustes.beginGroup(GrupoDe(ruta));
@@ -37,6 +37,8 @@ void Adjuntos::Conserva(const QString& ruta) const {
         if (elementos->ItemCodSIG(adjunto.key()))
             ajustes.setValue(QString::number(adjunto.key()), adjunto.value());
     }
+    ajustes.sync();
+    return archivos_.isEmpty() || ajustes.status() == QSettings::NoError;
 }
 
 void Adjuntos::Adjunta(qint32 codigo) {

@@ -16,8 +16,9 @@ class Adjuntos {
 
     // Another schematic, with what is remembered of it; none is remembered of one that has no path.
     void Recuerda(const QString& ruta);
-    // The schematic is in that file now: those of its elements are remembered with it.
-    void Conserva(const QString& ruta) const;
+    // The schematic is in that file now: those of its elements are remembered with it. False when they could
+    // not be.
+    bool Conserva(const QString& ruta) const;
 
     // Asks for the document of an element.
     void Adjunta(qint32 codigo);

@@ -15,6 +15,11 @@ namespace {
 
 constexpr const char* FILTRO = "Esquemas|*.xml|Todos los archivos|*.*";
 
+// Not valid for a file that is not there.
+QDateTime FechaDe(const QString& ruta) {
+    return ruta.isEmpty() ? QDateTime() : QFileInfo(ruta).lastModified();
+}
+
 class CursorDeEspera {
   public:
     CursorDeEspera() { QApplication::setOverrideCursor(Qt::WaitCursor); }
@@ -40,6 +45,7 @@ QString Documentos::Nombre() const {
 
 void Documentos::PonRuta(const QString& ruta) {
     ruta_ = ruta;
+    escrito_ = FechaDe(ruta);
     if (!ruta.isEmpty()) Recientes::Pon(ruta);
     emit Cambiado();
 }
@@ -87,21 +93,36 @@ bool Documentos::Abre(const QString& ruta) {
 }
 
 bool Documentos::Carga(const QString& ruta) {
+    const auto anterior = esquema_.GetElementos();
+    std::optional<std::string> fallo;
     // What is begun with one schematic must not go on with the other.
     cargando_ = true;
     emit CargaCambiada(true);
-    std::string fallo;
     try {
         const CursorDeEspera espera;
         esquema_.ArchivoAbrir(ruta);
-    } catch (const Fallo& error) {
-        fallo = error.Description();
+    } catch (const std::exception& error) {
+        fallo = error.what();
     }
     cargando_ = false;
     emit CargaCambiada(false);
-    if (fallo.empty()) return true;
+    if (!fallo && !ruta.isEmpty()) fallo = Motivo();
+    if (!fallo) return true;
+    // The file that was open has nothing to do with what is shown after all.
+    if (esquema_.GetElementos() != anterior) {
+        adjuntos_.Recuerda({});
+        PonRuta({});
+    }
+    NoSeAbre(ruta, *fallo);
     esquema_.Refresh();
-    return NoSeAbre(ruta, fallo);
+    return false;
+}
+
+// Why the file that was just opened could not be read; nothing when it was.
+std::optional<std::string> Documentos::Motivo() const {
+    const QString motivo = esquema_.MotivoSinLeer();
+    if (motivo.isEmpty()) return std::nullopt;
+    return motivo.toStdString();
 }
 
 void Documentos::DiProblemas() const {
@@ -111,7 +132,17 @@ void Documentos::DiProblemas() const {
 }
 
 bool Documentos::Guarda() {
-    return ruta_.isEmpty() ? GuardaComo() : GuardaEn(ruta_);
+    if (cargando_) return false;
+    if (ruta_.isEmpty()) return GuardaComo();
+    const QDateTime fecha = FechaDe(ruta_);
+    if (fecha.isValid() && fecha != escrito_ &&
+        !Confirma(ventana_,
+                  QStringLiteral("\"%1\" ha cambiado desde que se abrió. ¿Reemplazarlo?").arg(Nombre()),
+                  QStringLiteral("Lo ha escrito otro programa, u otra ventana de este. Si lo reemplaza, se "
+                                 "perderán esos cambios."),
+                  QStringLiteral("&Reemplazar")))
+        return false;
+    return GuardaEn(ruta_);
 }
 
 bool Documentos::GuardaComo() {
@@ -140,9 +171,13 @@ bool Documentos::GuardaEn(const QString& ruta) {
                           ".\n\nEl archivo que hubiera con ese nombre sigue como estaba.");
         return false;
     }
-    adjuntos_.Conserva(ruta);
     PonRuta(ruta);
-    return true;
+    if (adjuntos_.Conserva(ruta)) return true;
+    esquema_.bHabidoCambios(true);
+    dialogos().MsgBox(
+        "El esquema se ha guardado, pero no los documentos relacionados con sus elementos: no se pueden "
+        "escribir los ajustes del programa.");
+    return false;
 }
 
 }  // namespace zel

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QDateTime>
 #include <QObject>
 #include <QString>
+#include <optional>
+#include <string>
 
 #include "Adjuntos.h"
 
@@ -41,6 +44,7 @@ class Documentos : public QObject {
 
   private:
     bool Carga(const QString& ruta);
+    std::optional<std::string> Motivo() const;
     bool GuardaEn(const QString& ruta);
     void PonRuta(const QString& ruta);
     void DiProblemas() const;
@@ -49,6 +53,7 @@ class Documentos : public QObject {
     Adjuntos& adjuntos_;
     QWidget* ventana_;
     QString ruta_;
+    QDateTime escrito_;  // of the file when it was opened or saved here
     bool cargando_ = false;
 };
 

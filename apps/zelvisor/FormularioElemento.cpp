@@ -7,7 +7,6 @@
 #include <QPushButton>
 
 #include "Preguntas.h"
-#include "Recorte.h"
 #include "control/Esquema.h"
 #include "platform/Numeros.h"
 
@@ -165,10 +164,7 @@ void EditaElemento(Esquema& esquema, QWidget* ventana, std::int32_t codigo) {
     const bool cambia = formulario.Nombre() || formulario.Numero() || formulario.Tamanyo();
     if (!cambia || esquema.GetElementos() != elementos || esquema.Seleccionar(codigo) != codigo) return;
     esquema.bHabidoCambios(true);
-    if (formulario.Tamanyo()) {
-        e->Tamanyo(*formulario.Tamanyo());
-        if (TieneSimbolo(e->Tipo())) RecortaTrazados(*elementos, *e);
-    }
+    if (formulario.Tamanyo()) esquema.TamanyoElemento(*formulario.Tamanyo());
     if (formulario.Numero()) esquema.NumeroPantallaElemento(*formulario.Numero());
     if (formulario.Nombre()) esquema.NombreElemento(QString::fromStdString(*formulario.Nombre()));
     esquema.Refresh();

@@ -98,6 +98,7 @@ void VentanaPrincipal::CreaMenuVer() {
     PonOrden(menu, tr("A&lejar"), Qt::CTRL | Qt::Key_Minus, [this] { esquema_->CambiaZoom(ALEJA); });
     PonOrden(menu, tr("&Todo el esquema"), Qt::Key_Home, [this] { esquema_->ResizeGrafo(); });
     menu->addSeparator();
+    connect(menu, &QMenu::aboutToShow, esquema_, &Esquema::PonAlDiaMenu);
     for (const char* orden : {"menuVisorImagen", "menuVisorQuitarImagen"}) {
         if (auto* accion = esquema_->findChild<QAction*>(QString::fromLatin1(orden))) menu->addAction(accion);
     }

@@ -176,6 +176,22 @@ void Esquema::NumeroPantallaElemento(qint16 valor) {
     });
 }
 
+float Esquema::TamanyoElemento() const {
+    return Llamada(". Error en Property Get TamanyoElemento (Esquema)", [&] {
+        const auto& e = partes_->Seleccionado();
+        return e ? e->Tamanyo() : static_cast<float>(NINGUNO);
+    });
+}
+
+void Esquema::TamanyoElemento(float valor) {
+    Operacion(". Error en Property Let TamanyoElemento (Esquema)", [&](Partes& p) {
+        p.apariencia.CambiaTamanyo(
+            SeleccionadoParaCambiar(". Esquema: TamanyoElemento Property Let. No hay elemento seleccionado"),
+            valor);
+        p.refresco.RefrescarSiPendiente();
+    });
+}
+
 qint16 Esquema::TipoElemento() const {
     return Llamada(". Error en Property Get TipoElemento (Esquema)", [&]() -> qint16 {
         const auto& e = partes_->Seleccionado();
@@ -320,6 +336,11 @@ bool Esquema::CambiaZoom(double factor) {
 
 void Esquema::textoStatBar(const QString& texto) {
     partes_->TextoEstado(1, texto.toStdString());
+}
+
+void Esquema::PonAlDiaMenu() {
+    partes_->pintado.SueltaAjenos();
+    partes_->menu.PonAlDia();
 }
 
 // --- Events of the platform -------------------------------------------------------------------------------

@@ -72,6 +72,10 @@ class Esquema : public QFrame {
     void CodigoElemento(qint32 valor);
     qint16 NumeroPantallaElemento() const;
     void NumeroPantallaElemento(qint16 valor);
+    // The size of a symbol, 0.5 to 33 times the usual, or the width of a line, 1 to 20 pixels; others raise.
+    // Writing cuts the traces attached to a symbol to its new outline, and marks the schematic as changed.
+    float TamanyoElemento() const;
+    void TamanyoElemento(float valor);
     // The host's code for the kind: 10 node, 12 reservoir, 30 demand, 110 aquifer, 50 to 54 conduits,
     // 70 recharge, 60 pumping, 40 intake, 80 hydro plant, 20 inflow, 90 return, 25 sub-basin.
     qint16 TipoElemento() const;
@@ -136,6 +140,9 @@ class Esquema : public QFrame {
     bool CambiaZoom(double factor);
 
     void textoStatBar(const QString& texto);
+    // Brings the QActions of the menu up to date, for a host that shows some in a menu of its own. The
+    // control's menu does it when it opens.
+    void PonAlDiaMenu();
 
     // --- Drawing surface ------------------------------------------------------------------------------
 

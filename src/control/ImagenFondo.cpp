@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <cmath>
+#include <tuple>
 
 #include "model/modErrorHandling.h"
 #include "platform/Numeros.h"
@@ -152,6 +153,7 @@ bool ImagenFondo::Elige() {
     if (QFileInfo::exists(QString::fromStdString(ruta)) && Carga(ruta)) {
         sArchivoImagenFondo_ = ruta;
         bHayImagenFondo_ = true;
+        documento_.bHabidoCambios = true;
         PonTamanyoInicial();
         return true;
     }
@@ -175,6 +177,7 @@ void ImagenFondo::Edita() {
 void ImagenFondo::Quita() try {
     refresco_.AnularRefresco();
     bHayImagenFondo_ = false;
+    CierraFrame();
     estados_.Estado(E_PREPARADO, 1);
     documento_.bHabidoCambios = true;
     refresco_.RefrescarSiPendiente();
@@ -192,6 +195,10 @@ bool ImagenFondo::CajasValidas() {
 
 void ImagenFondo::cmdImagenFondoVer_Click() {
     if (!CajasValidas()) return;
+    const auto situacion = [this] {
+        return std::tuple(ImagenX0_, ImagenY0_, ImagenLX_, ImagenPropYX_, bOcultarImagenFondo_);
+    };
+    const auto antes = situacion();
     ImagenX0_ = Caja(CAJA_X0);
     ImagenY0_ = Caja(CAJA_Y0);
     ImagenLX_ = Caja(CAJA_LX);
@@ -199,6 +206,7 @@ void ImagenFondo::cmdImagenFondoVer_Click() {
     EscribeCajas();
     ImagenLY_ = -ImagenPropYX_ * ImagenLX_;
     bOcultarImagenFondo_ = Check1OcultarImagenFondo_->isChecked();
+    if (situacion() != antes) documento_.bHabidoCambios = true;
     ver_();
 }
 

@@ -26,7 +26,7 @@ MenuDelEsquema::MenuDelEsquema(QWidget* visor, std::function<AspectoDelMenu()> a
     menu_ = new QMenu(visor);
     for (const FilaDeMenu& fila : FilasDeMenu())
         Crea(fila);
-    QObject::connect(menu_, &QMenu::aboutToShow, visor, [this] { Prepara(); });
+    QObject::connect(menu_, &QMenu::aboutToShow, visor, [this] { PonAlDia(); });
 }
 
 void MenuDelEsquema::Crea(const FilaDeMenu& fila) {
@@ -65,7 +65,7 @@ void MenuDelEsquema::Elige(ItemDeMenu item) {
     alElegir(item);
 }
 
-void MenuDelEsquema::Prepara() {
+void MenuDelEsquema::PonAlDia() {
     const AspectoDelMenu aspecto = aspecto_();
     for (const FilaDeMenu& fila : FilasDeMenu()) {
         QAction* const accion = acciones_[static_cast<std::size_t>(fila.item)];

@@ -26,6 +26,8 @@ class MenuDelEsquema {
 
     // Returns at once; the menu closes by itself.
     void Abre(QPoint enLaPantalla);
+    // Visibility, captions and marks; the marks alone.
+    void PonAlDia();
     void PonMarcas();
     // The visor goes, and the menu with it: at once, or when the platform is through with the item chosen.
     void Suelta();
@@ -33,7 +35,6 @@ class MenuDelEsquema {
   private:
     void Crea(const FilaDeMenu& fila);
     void Elige(ItemDeMenu item);
-    void Prepara();
     QString Rotulo(const std::string& texto) const;
 
     QWidget* visor_;

@@ -119,6 +119,7 @@ struct Esquema::Partes : public Anfitrion {
     // For the selected element, beside it if it is in sight.
     void LanzaMenuConTeclado();
     void AlElegirEnElMenu(ItemDeMenu item);
+    void TerminaGesto();
     void EjecutaDelMenu(ItemDeMenu item);
 
     // The layout: the parts where they belong, the view to the panel's new size.

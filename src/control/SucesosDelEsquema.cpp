@@ -98,11 +98,19 @@ AspectoDelMenu Esquema::Partes::AspectoDelMenuAhora() const {
     return AspectoDelMenuEn(situacion);
 }
 
+// A host's own menu offers its items at any time, the control's only in these two states.
+void Esquema::Partes::TerminaGesto() {
+    if (trabajo.iEstado != E_PREPARADO && trabajo.iEstado != E_SUBSISTEMA) estados.Estado(E_PREPARADO, 1);
+}
+
 // The platform has turned a mark over by itself: it follows what the command has made of it, and stays where
 // the command did nothing.
 void Esquema::Partes::AlElegirEnElMenu(ItemDeMenu item) {
     const std::shared_ptr<Partes> vivas = esquema.partes_;
-    EnEntrada([&] { EjecutaDelMenu(item); });
+    EnEntrada([&] {
+        TerminaGesto();
+        EjecutaDelMenu(item);
+    });
     if (!trabajo.bTerminado) menu.PonMarcas();
 }
 

@@ -77,7 +77,7 @@ void Esquema::Partes::TeclaPulsada(const QKeyEvent& tecla) {
         // X11 tells the menu key as a request for the menu, this one not.
         if (!tecla.isAutoRepeat() && codigo == F10 && mayus == CON_MAYUS) LanzaMenuConTeclado();
         qint16 ascii = CaracterDeTecla(tecla);
-        if (ascii != 0) emit esquema.KeyPress(ascii);
+        if (ascii != 0) Emitido([&] { emit esquema.KeyPress(ascii); });
     });
 }
 

@@ -143,12 +143,26 @@ bool Apariencia::PideTamanyo() {
         VuelveAPreguntar(v ? VALOR_INCORRECTO : NO_ES_NUMERO);
         return true;
     }
-    e->Tamanyo(static_cast<float>(*v / p.porUnidad));
-    if (TieneSimbolo(tipo)) recorta_(e);
+    PonTamanyo(e, static_cast<float>(*v / p.porUnidad));
     anfitrion_.ElementoModificado(e);
     vista_.CalculaRegionActiva(panel_, false);
     Preparado();
     return false;
+}
+
+void Apariencia::PonTamanyo(const std::shared_ptr<Elemento>& e, float tamanyo) {
+    e->Tamanyo(tamanyo);
+    if (TieneSimbolo(e->Tipo())) recorta_(e);
+}
+
+void Apariencia::CambiaTamanyo(const std::shared_ptr<Elemento>& e, float tamanyo) {
+    const PreguntaDeTamanyo p = PreguntaPara(e->Tipo());
+    const double v = double{tamanyo} * p.porUnidad;
+    if (!(v >= p.minimo && v <= p.maximo)) throw Fallo(5, "El tamaño está fuera de sus límites");
+    PonTamanyo(e, tamanyo);
+    documento_.bHabidoCambios = true;
+    vista_.CalculaRegionActiva(panel_, false);
+    refresco_.PedirRefresco();
 }
 
 void Apariencia::menuContextualMostrarEtiqueta_Click() {
@@ -247,8 +261,7 @@ void Apariencia::menuVisorModifElems_Click() {
         if (!v) return;
         for (const auto& e : *documento_.colElementos) {
             if (!TieneSimbolo(e->Tipo())) continue;
-            e->Tamanyo(static_cast<float>(*v));
-            recorta_(e);
+            PonTamanyo(e, static_cast<float>(*v));
         }
         vista_.CalculaRegionActiva(panel_, false);
         Preparado();

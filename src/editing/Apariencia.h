@@ -25,6 +25,9 @@ class Apariencia {
     void menuContextualColorLinea_Click();
     // The size of a symbol in percent or the width of a line in pixels, asked for until it is one.
     void menuContextualTamanyo_Click();
+    // The same for a size that is known: 0.5 to 33 for a symbol, 1 to 20 for a line; others raise. The host,
+    // which knows, is not told.
+    void CambiaTamanyo(const std::shared_ptr<Elemento>& e, float tamanyo);
 
     void menuContextualMostrarEtiqueta_Click();
     void menuContextualTamanyoEtiqueta_Click();
@@ -43,6 +46,7 @@ class Apariencia {
                    void (Elemento::*pon)(std::int32_t) noexcept,
                    std::int32_t (*delTipo)(TipoElemento) noexcept);
     bool PideTamanyo();
+    void PonTamanyo(const std::shared_ptr<Elemento>& e, float tamanyo);
     bool PideTamanyoEtiqueta();
     void VuelveAPreguntar(std::int16_t aviso);
     std::optional<std::string> Pregunta(std::string_view texto, double propuesta);

@@ -192,6 +192,25 @@ TEST_F(Ventana, ANewSchematicHasNoFileUntilItIsSaved) {
     EXPECT_FALSE(ventana->isWindowModified());
 }
 
+TEST_F(Ventana, WhatHappensToTheFileMeanwhileIsNotOverlooked) {
+    ventana->Abre(ruta);
+    carpeta.Escribe("obra.xml", UN_NUDO);
+    std::filesystem::last_write_time("obra.xml",
+                                     std::filesystem::file_time_type::clock::now() + std::chrono::seconds(9));
+    Contesta(u"Cancelar"_s);
+    Teclea(Qt::Key_S);
+    EXPECT_EQ(LeeArchivo("obra.xml"), UN_NUDO);
+    Contesta(u"Reemplazar"_s);
+    Teclea(Qt::Key_S);
+    EXPECT_NE(LeeArchivo("obra.xml"), UN_NUDO);
+    // It goes while the question about the earlier one is open.
+    esquema->bHabidoCambios(true);
+    Contesta(u"Descartar"_s, [](QDialog&) { std::filesystem::remove("obra.xml"); });
+    dialogos.Espera("No se puede abrir");
+    EXPECT_FALSE(ventana->Abre(ruta));
+    EXPECT_TRUE(ventana->windowTitle().startsWith(u"Sin título"_s));
+}
+
 TEST_F(Ventana, RemembersTheLastEightAndForgetsThoseThatAreGone) {
     for (int i = 1; i <= 9; ++i) {
         const auto nombre =
@@ -307,6 +326,11 @@ TEST_F(Ventana, AttachedDocumentsAreKeptWithTheSchematic) {
     ventana->Abre(ruta);
     emit esquema->AdjuntarVer(codigo);
     EXPECT_EQ(escritorio.abiertos, QStringList(QString::fromStdString(informe)));
+    std::filesystem::remove_all("ajustes");
+    carpeta.Escribe("ajustes", "not a folder");
+    dialogos.Espera("no se pueden escribir los ajustes");
+    Teclea(Qt::Key_S);
+    EXPECT_TRUE(esquema->bHabidoCambios());
     std::filesystem::remove(informe);
     dialogos.Espera("No se encuentra el documento");
     emit esquema->AdjuntarVer(codigo);

@@ -188,6 +188,16 @@ TEST_F(EsquemaEnVentana, TheViewToolsWorkByClicks) {
     dialogos.Responde("50");
     Pulsa("zoom");
     EXPECT_EQ(Estado(4), "Región mostrada: 50 %");
+    Pulsa("zoommenos");
+    QTest::mouseClick(Panel(), Qt::LeftButton, {}, EnElPanel(2000, 3000));
+    EXPECT_GT(Dibujo().ScaleWidth(), todo.Width);
+    Pulsa("ajustarzoom");
+    EXPECT_NEAR(Dibujo().ScaleWidth(), todo.Width, 1);
+    dialogos.Espera("No hay ningún elemento seleccionado en el panel");
+    Pulsa("centrarElemento");
+    esquema.Seleccionar(2);
+    Pulsa("centrarElemento");
+    EXPECT_NEAR(Centro().X, 5000, 15);
 }
 
 }  // namespace

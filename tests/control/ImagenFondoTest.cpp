@@ -95,17 +95,22 @@ TEST_F(ImagenFondo, ItGoesWithTheFileHiddenOrRemoved) {
     Escoge(Pinta("mapas/plano.bmp", {100, 50}));
     Escribe("10;-20;150;0.4");
     Pulsa("cmdImagenFondoAceptar");
+    EXPECT_TRUE(esquema.bHabidoCambios());
     esquema.ArchivoGuardar(u"con.xml"_s);
     Edita();  // there is one: no dialog
+    EXPECT_FALSE(esquema.bHabidoCambios());
     AlternaOcultar();
     EXPECT_TRUE(HayRojo(158, -78)) << "hidden before it was asked for";
     Pulsa("cmdImagenFondoAceptar");
+    EXPECT_TRUE(esquema.bHabidoCambios());
     EXPECT_FALSE(HayRojo(158, -78));
     esquema.ArchivoGuardar(u"oculta.xml"_s);
     esquema.ArchivoAbrir(u"con.xml"_s);
     Encuadra();
     EXPECT_TRUE(HayRojo(158, -78));
+    Edita();
     Parte<QAction>("menuVisorQuitarImagen")->trigger();
+    EXPECT_FALSE(MarcoAbierto());
     EXPECT_FALSE(HayRojo(158, -78));
     EXPECT_TRUE(esquema.bHabidoCambios());
     esquema.ArchivoGuardar(u"sin.xml"_s);

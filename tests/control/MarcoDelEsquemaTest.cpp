@@ -33,6 +33,21 @@ TEST_F(MarcoDelEsquema, AnElementIsSelectedByItsCode) {
     EXPECT_FALSE(SeVe(0, 4));
 }
 
+TEST_F(MarcoDelEsquema, AnElementsSizeIsWrittenAsTheMenusCommandDoes) {
+    Pon(DosNudos());
+    const auto toma = esquema.GetElementos()->Add(ctToma, "T", 3, 1, 250, 250, 1, 2,
+                                                  Traza({{3, 3}, {497, 497}}), nullptr, "3", 5, 0);
+    EXPECT_EQ(esquema.TamanyoElemento(), -1);
+    esquema.Seleccionar(1);
+    EXPECT_TRUE(
+        Falla([this] { esquema.TamanyoElemento(0.4F); }, {"fuera de sus límites", "TamanyoElemento"}));
+    EXPECT_FALSE(esquema.bHabidoCambios());
+    esquema.TamanyoElemento(2);
+    EXPECT_EQ(esquema.TamanyoElemento(), 2);
+    EXPECT_NEAR(toma->Trazado()->Item(1)->XPos(), 8 * std::sqrt(0.5), 0.001);
+    EXPECT_TRUE(esquema.bHabidoCambios());
+}
+
 TEST_F(MarcoDelEsquema, WhatIsNoLongerInTheSchematicIsNotSelected) {
     Pon(DosNudos());
     esquema.Seleccionar(2);

@@ -33,6 +33,64 @@ TEST_F(MenuDelEsquema, OpensForWhatIsSelectedAtThatMoment) {
     EXPECT_LT(Abierto().size(), 200u);
     esquema.GetElementos()->RemoveCodSIG(2);
     EXPECT_EQ(Abierto(), "Menu General de Visor|") << "the host has removed it";
+    // The others, and an item that the host shows in a menu of its own.
+    const auto traza = [] { return Traza({{0, 0}, {300, 0}, {500, 500}}); };
+    const auto e = esquema.GetElementos();
+    e->Add(ctConduccion2, "Canal", 3, 1, 9, 9, 1, 2, traza(), nullptr, "3", 5, 0);
+    e->Add(ctCentralHidroelectrica, "Salto", 4, 1, 9, 9, 1, 2, traza(), traza(), "4", 5, 0);
+    esquema.Seleccionar(3);
+    EXPECT_EQ(Abierto(),
+              "Editar Canal|Documento relacionado|Colores|Grosor de línea|Mover nodos de la "
+              "conducción|Etiqueta||Menu General de Visor|");
+    esquema.Seleccionar(4);
+    EXPECT_EQ(Abierto(),
+              "Editar Salto|Documento relacionado|Colores|Tamaño|Mover nodos de la "
+              "conducción|Etiqueta||Menu General de Visor|");
+    QTest::keyPress(Panel(), Qt::Key_Control);
+    QTest::mouseClick(Panel(), Qt::LeftButton, Qt::ControlModifier, EnElPanel(0, 0));
+    QTest::keyRelease(Panel(), Qt::Key_Control);
+    EXPECT_EQ(Abierto(), "Volver a esquema general|Exportar seleccion|Menu General de Visor|");
+    esquema.bMostrarLineasOcultas(false);
+    esquema.PonAlDiaMenu();
+    EXPECT_FALSE(Parte<QAction>("menuVisorQuitarImagen")->isVisible());
+    EXPECT_EQ(Parte<QAction>("menuVisorImagen")->text(), u"Agregar imagen de fondo"_s);
+    EXPECT_FALSE(Parte<QAction>("menuVisorMostrarLineasOcultas")->isChecked());
+}
+
+TEST_F(MenuDelEsquema, EachItemDoesItsCommandAndTellsTheHost) {
+    std::string oido;
+    const auto anota = [&](const char* que) { return [&oido, que](qint32) { oido += que; }; };
+    QObject::connect(&esquema, &Esquema::EditarElemento, anota("Editar"));
+    QObject::connect(&esquema, &Esquema::AdjuntarArchivo, anota("Adjuntar"));
+    QObject::connect(&esquema, &Esquema::AdjuntarVer, anota("Ver"));
+    QObject::connect(&esquema, &Esquema::ElementoModificado, anota("Modificado"));
+    const std::tuple<const char*, const char*, const char*, const char*> filas[] = {
+        {"menuContextualEditarElemento", "", "Editar", "Norte"},
+        {"menuAdjuntar", "", "Adjuntar", "Norte"},
+        {"menuAdjuntarVer", "", "Ver", "Norte"},
+        {"menuContextualColorIcono", "color", "Modificado", "Preparado"},
+        {"menuContextualColorLinea", "color", "Modificado", "Preparado"},
+        {"menuContextualTamanyo", "200", "Modificado", "Norte"},
+        {"menuContextualTamanyoEtiqueta", "300", "Modificado", "Norte"},
+        {"menuContextualEtiquetaTamanyoRelativo", "", "Modificado", "Norte"},
+        {"menuVisorModifFtes", "1000", "", "Norte"}};
+    const auto e = esquema.GetElementos()->ItemCodSIG(1);
+    const bool relativo = e->EtiquetaTamanyoRelativo();
+    for (const auto& [item, respuesta, suceso, prompt] : filas) {
+        esquema.Seleccionar(1);
+        Pulsa("nudo");  // what is in hand ends with the command
+        oido.clear();
+        if (respuesta == std::string("color"))
+            dialogos.ResponderColor(7);
+        else if (*respuesta)
+            dialogos.Responde(respuesta);
+        Elige(item);
+        EXPECT_EQ(oido, suceso) << item;
+        EXPECT_EQ(Estado(1), prompt) << item;
+    }
+    EXPECT_EQ(e->ColorIcono() + e->ColorLinea(), 14);
+    EXPECT_EQ(e->Tamanyo() + e->EtiquetaTamanyo(), 2 + 15);
+    EXPECT_NE(e->EtiquetaTamanyoRelativo(), relativo);
 }
 
 TEST_F(MenuDelEsquema, MarksFollowWhatTheCommandsDo) {

@@ -70,6 +70,41 @@ TEST_F(TecladoDelEsquema, OnlyAReleaseWhosePressWasSeenHereCounts) {
     EXPECT_TRUE(Marcado("mano"));
 }
 
+TEST_F(TecladoDelEsquema, TheKeysOfThePanel) {
+    const auto pulsa = [&](Qt::Key tecla, Qt::KeyboardModifiers con = {}) {
+        QTest::keyClick(Panel(), tecla, con);
+        return Dibujo().escala();
+    };
+    const float ancho = Dibujo().ScaleWidth();
+    EXPECT_LT(pulsa(Qt::Key_Plus, Qt::KeypadModifier).Width, ancho);
+    const Superficie::Escala cerca = Dibujo().escala();
+    EXPECT_GT(pulsa(Qt::Key_Right).Left, cerca.Left);
+    EXPECT_NEAR(pulsa(Qt::Key_Left).Left, cerca.Left, 1);
+    EXPECT_GT(pulsa(Qt::Key_Up).Top, cerca.Top);
+    EXPECT_NEAR(pulsa(Qt::Key_Down).Top, cerca.Top, 1);
+    EXPECT_NEAR(pulsa(Qt::Key_Minus, Qt::KeypadModifier).Width, ancho, 1);
+    pulsa(Qt::Key_C);
+    EXPECT_NEAR(Centro().X, 0, 20);
+    pulsa(Qt::Key_Z);
+    EXPECT_NEAR(Centro().X, 2500, 20);
+    pulsa(Qt::Key_Z, Qt::ShiftModifier);
+    EXPECT_TRUE(Marcado("zoomRecuadro"));
+    pulsa(Qt::Key_Escape);
+    EXPECT_EQ(Estado(1), "Norte");
+    for (const char* texto : {"DEPURANDO", "FIN DEPURACIÓN"}) {
+        pulsa(Qt::Key_F12, Qt::AltModifier);
+        EXPECT_EQ(Estado(1), texto);
+    }
+    const auto norte = esquema.GetElementos()->ItemCodSIG(1);
+    for (const Qt::Key tecla : {Qt::Key_F10, Qt::Key_F11}) {
+        dialogos.Responde("2");
+        pulsa(tecla, Qt::AltModifier);
+    }
+    EXPECT_EQ(norte->ConecSec1() + norte->ConecSec2(), 4);
+    pulsa(Qt::Key_Escape);
+    EXPECT_EQ(esquema.CodigoElemento(), -1);
+}
+
 TEST_F(TecladoDelEsquema, WhatTheHostMakesOfAKeyIsWhatCounts) {
     QObject::connect(&esquema, &Esquema::KeyUp, [](qint16& tecla, qint16&) { tecla = 'M'; });
     QTest::keyClick(Panel(), Qt::Key_Q);

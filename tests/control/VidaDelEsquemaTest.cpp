@@ -2,9 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QTimer>
+#include <functional>
 #include <memory>
 
 #include "control/EnVentana.h"
+#include "platform/qt/DialogosQt.h"
 
 namespace zel::pruebas {
 namespace {
@@ -37,6 +40,13 @@ TEST_F(HostQueDestruye, InASlot) {
     QObject::connect(esquema.get(), &Esquema::PeticionBorrado, destruye);
     QTest::keyClick(Parte("Panel"), Qt::Key_Delete);
     EXPECT_EQ(esquema, nullptr);
+    esquema = std::make_unique<Esquema>();
+    QObject::connect(esquema.get(), &Esquema::KeyPress, [this] {
+        esquema->ModificaVarios_Nombres({}, {});  // asks for a repaint that nobody is left to perform
+        esquema.reset();
+    });
+    QTest::keyClick(Parte("Panel"), Qt::Key_A);
+    QApplication::processEvents();
     EXPECT_EQ(errores, 0);
 }
 
@@ -60,6 +70,23 @@ TEST_F(HostQueDestruye, WhileABoxIsOpen) {
     dialogos.Espera("ErrDibujarConduccion");
     QApplication::processEvents();
     EXPECT_EQ(esquema, nullptr);
+}
+
+TEST_F(HostQueDestruye, ItsWindowUnderABoxOfThePlatform) {
+    DialogosQt qt;
+    for (const std::function<bool()>& responde :
+         {std::function<bool()>([&] { return qt.MsgBox("a", {}), false; }),
+          {[&] { return qt.InputBox("a", {}, "b").has_value(); }},
+          {[&] { return qt.ArchivoAbrir("a", "b|*.b").has_value(); }},
+          {[&] { return qt.Color(0).has_value(); }}}) {
+        esquema = std::make_unique<Esquema>();
+        esquema->show();
+        esquema->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(esquema.get()));
+        QTimer::singleShot(0, [this] { esquema.reset(); });
+        EXPECT_FALSE(responde());
+        EXPECT_EQ(esquema, nullptr);
+    }
 }
 
 TEST(EsquemaSinMostrar, TheFirstShowFitsUnlessTheHostHasChosenAView) {

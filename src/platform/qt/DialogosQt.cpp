@@ -6,7 +6,9 @@
 #include <QGuiApplication>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
+#include <utility>
 
 namespace zel {
 
@@ -28,48 +30,70 @@ QString FiltroQt(const std::string& filtro) {
     return filtros.join(QStringLiteral(";;"));
 }
 
-std::optional<std::string> Elegido(const QString& ruta) {
-    if (ruta.isEmpty()) return std::nullopt;
-    return ruta.toStdString();
+// A box over the window in use. A host may destroy that window, and the box with it, while it is open: then
+// nothing was chosen.
+template <typename Caja>
+class Abierta {
+  public:
+    template <typename... Args>
+    explicit Abierta(Args&&... args) : caja_(new Caja(std::forward<Args>(args)...)) {}
+    Abierta(const Abierta&) = delete;
+    Abierta& operator=(const Abierta&) = delete;
+    ~Abierta() { delete caja_.data(); }
+
+    Caja* operator->() const { return caja_; }
+    bool Acepta() { return caja_->exec() == QDialog::Accepted && caja_; }
+
+  private:
+    QPointer<Caja> caja_;
+};
+
+std::optional<std::string> Elegido(Abierta<QFileDialog>& caja) {
+    if (!caja.Acepta()) return std::nullopt;
+    return caja->selectedFiles().value(0).toStdString();
 }
 
 }  // namespace
 
 void DialogosQt::MsgBox(const std::string& texto, const std::string& titulo) {
-    QMessageBox caja(QMessageBox::NoIcon, Titulo(titulo), QString::fromStdString(texto), QMessageBox::Ok,
-                     QApplication::activeWindow());
-    caja.setTextFormat(Qt::PlainText);
-    caja.button(QMessageBox::Ok)->setText(QStringLiteral("Aceptar"));
-    caja.exec();
+    Abierta<QMessageBox> caja(QMessageBox::NoIcon, Titulo(titulo), QString::fromStdString(texto),
+                              QMessageBox::Ok, QApplication::activeWindow());
+    caja->setTextFormat(Qt::PlainText);
+    caja->button(QMessageBox::Ok)->setText(QStringLiteral("Aceptar"));
+    caja.Acepta();
 }
 
 std::optional<std::string> DialogosQt::InputBox(const std::string& texto, const std::string& titulo,
                                                 const std::string& propuesta) {
-    QInputDialog caja(QApplication::activeWindow());
-    caja.setWindowTitle(Titulo(titulo));
-    caja.setLabelText(QString::fromStdString(texto));
-    caja.setTextValue(QString::fromStdString(propuesta));
-    caja.setOkButtonText(QStringLiteral("Aceptar"));
-    caja.setCancelButtonText(QStringLiteral("Cancelar"));
-    if (caja.exec() != QDialog::Accepted) return std::nullopt;
-    return caja.textValue().toStdString();
+    Abierta<QInputDialog> caja(QApplication::activeWindow());
+    caja->setWindowTitle(Titulo(titulo));
+    caja->setLabelText(QString::fromStdString(texto));
+    caja->setTextValue(QString::fromStdString(propuesta));
+    caja->setOkButtonText(QStringLiteral("Aceptar"));
+    caja->setCancelButtonText(QStringLiteral("Cancelar"));
+    if (!caja.Acepta()) return std::nullopt;
+    return caja->textValue().toStdString();
 }
 
 std::optional<std::string> DialogosQt::ArchivoAbrir(const std::string& titulo, const std::string& filtro) {
-    return Elegido(
-        QFileDialog::getOpenFileName(QApplication::activeWindow(), Titulo(titulo), {}, FiltroQt(filtro)));
+    Abierta<QFileDialog> caja(QApplication::activeWindow(), Titulo(titulo), QString(), FiltroQt(filtro));
+    caja->setFileMode(QFileDialog::ExistingFile);
+    return Elegido(caja);
 }
 
 std::optional<std::string> DialogosQt::ArchivoGuardar(const std::string& titulo, const std::string& filtro,
                                                       const std::string& propuesta) {
-    return Elegido(QFileDialog::getSaveFileName(QApplication::activeWindow(), Titulo(titulo),
-                                                QString::fromStdString(propuesta), FiltroQt(filtro)));
+    Abierta<QFileDialog> caja(QApplication::activeWindow(), Titulo(titulo), QString::fromStdString(propuesta),
+                              FiltroQt(filtro));
+    caja->setAcceptMode(QFileDialog::AcceptSave);
+    return Elegido(caja);
 }
 
 std::optional<std::int32_t> DialogosQt::Color(std::int32_t propuesta) {
     const QColor inicial(propuesta & 0xFF, (propuesta >> 8) & 0xFF, (propuesta >> 16) & 0xFF);
-    const QColor color = QColorDialog::getColor(inicial, QApplication::activeWindow());
-    if (!color.isValid()) return std::nullopt;
+    Abierta<QColorDialog> caja(inicial, QApplication::activeWindow());
+    if (!caja.Acepta()) return std::nullopt;
+    const QColor color = caja->selectedColor();
     return color.red() + 256 * color.green() + 65536 * color.blue();
 }
 
