@@ -33,19 +33,15 @@ TEST_F(MenuDelEsquema, OpensForWhatIsSelectedAtThatMoment) {
     EXPECT_LT(Abierto().size(), 200u);
     esquema.GetElementos()->RemoveCodSIG(2);
     EXPECT_EQ(Abierto(), "Menu General de Visor|") << "the host has removed it";
-    // The others, and an item that the host shows in a menu of its own.
     const auto traza = [] { return Traza({{0, 0}, {300, 0}, {500, 500}}); };
-    const auto e = esquema.GetElementos();
-    e->Add(ctConduccion2, "Canal", 3, 1, 9, 9, 1, 2, traza(), nullptr, "3", 5, 0);
-    e->Add(ctCentralHidroelectrica, "Salto", 4, 1, 9, 9, 1, 2, traza(), traza(), "4", 5, 0);
-    esquema.Seleccionar(3);
-    EXPECT_EQ(Abierto(),
-              "Editar Canal|Documento relacionado|Colores|Grosor de línea|Mover nodos de la "
-              "conducción|Etiqueta||Menu General de Visor|");
-    esquema.Seleccionar(4);
-    EXPECT_EQ(Abierto(),
-              "Editar Salto|Documento relacionado|Colores|Tamaño|Mover nodos de la "
-              "conducción|Etiqueta||Menu General de Visor|");
+    esquema.GetElementos()->Add(ctCentralHidroelectrica, "X", 4, 1, 9, 9, 1, 2, traza(), traza(), "4", 5, 0);
+    for (const auto& [tipo, tamanyo] :
+         {std::pair(ctConduccion2, "Grosor de línea"), std::pair(ctCentralHidroelectrica, "Tamaño")}) {
+        esquema.GetElementos()->ItemCodSIG(4)->Tipo(tipo);
+        esquema.Seleccionar(4);
+        EXPECT_EQ(Abierto(), "Editar X|Documento relacionado|Colores|" + std::string(tamanyo) +
+                                 "|Mover nodos de la conducción|Etiqueta||Menu General de Visor|");
+    }
     QTest::keyPress(Panel(), Qt::Key_Control);
     QTest::mouseClick(Panel(), Qt::LeftButton, Qt::ControlModifier, EnElPanel(0, 0));
     QTest::keyRelease(Panel(), Qt::Key_Control);
@@ -75,7 +71,6 @@ TEST_F(MenuDelEsquema, EachItemDoesItsCommandAndTellsTheHost) {
         {"menuContextualEtiquetaTamanyoRelativo", "", "Modificado", "Norte"},
         {"menuVisorModifFtes", "1000", "", "Norte"}};
     const auto e = esquema.GetElementos()->ItemCodSIG(1);
-    const bool relativo = e->EtiquetaTamanyoRelativo();
     for (const auto& [item, respuesta, suceso, prompt] : filas) {
         esquema.Seleccionar(1);
         Pulsa("nudo");  // what is in hand ends with the command
@@ -90,7 +85,6 @@ TEST_F(MenuDelEsquema, EachItemDoesItsCommandAndTellsTheHost) {
     }
     EXPECT_EQ(e->ColorIcono() + e->ColorLinea(), 14);
     EXPECT_EQ(e->Tamanyo() + e->EtiquetaTamanyo(), 2 + 15);
-    EXPECT_NE(e->EtiquetaTamanyoRelativo(), relativo);
 }
 
 TEST_F(MenuDelEsquema, MarksFollowWhatTheCommandsDo) {
