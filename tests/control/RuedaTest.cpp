@@ -79,7 +79,9 @@ TEST_F(Rueda, CtrlAndAPinchZoomAroundTheMouseWithinTheLimits) {
         for (int i = 0; i < 60; ++i)
             Gira({0, 120 * sentido}, Qt::ControlModifier);
         QApplication::processEvents();
-        if (sentido > 0) EXPECT_NEAR(esquema.ScaleWidth(), 40.04, 1e-3);
+        if (sentido > 0) {
+            EXPECT_NEAR(esquema.ScaleWidth(), 40.04, 1e-3);
+        }
     }
     esquema.ScaleWidth(20);  // closer than that by other means
     Gira({0, 1}, Qt::ControlModifier);

@@ -122,7 +122,7 @@ TEST_F(TecladoDelEsquema, TheMenuKeyOpensTheMenuBesideTheSelectionWhereverTheMou
     EXPECT_LE((enNorte.value() - EnElPanel(0, 0)).manhattanLength(), 2);
     EXPECT_EQ(Menu(QKeyEvent(QEvent::KeyPress, Qt::Key_F10, Qt::ShiftModifier)), enNorte);
     EXPECT_EQ(Menu(pide(QContextMenuEvent::Mouse)), std::nullopt) << "the press has opened it already";
-    esquema.DesplazaVista(2, 0);
+    esquema.ScaleLeft(esquema.ScaleLeft() + 2 * esquema.ScaleWidth());
     EXPECT_EQ(Menu(pide(QContextMenuEvent::Keyboard)), Panel()->rect().center()) << "out of sight";
     Pulsa("mano");
     EXPECT_EQ(Menu(pide(QContextMenuEvent::Keyboard)), std::nullopt);
