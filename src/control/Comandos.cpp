@@ -133,6 +133,8 @@ void Comandos::LeeSecciones() {
 }
 
 void Comandos::AceptaColeccion(std::shared_ptr<Elementos> nueva) {
+    // The one that goes may come back: it keeps no marks of a drag.
+    if (trabajo_.iEstado == E_ARRASTRAR_PUNTO) estados_.BorrarInfoExtra();
     documento_.colElementos = std::move(nueva);
     const auto& e = trabajo_.elemSeleccionado;
     if (e && !documento_.colElementos->Contiene(e.get())) trabajo_.elemSeleccionado.reset();

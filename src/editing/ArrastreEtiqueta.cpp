@@ -66,7 +66,9 @@ void ArrastreEtiqueta::Arrastra(float X, float Y) {
     contorno->Item(ANCLA)->XPos(X + desde->XPos());
     contorno->Item(ANCLA)->YPos(Y + desde->YPos());
     pintado_.AlternaContorno();
+    panel_.DrawMode(Superficie::MODO_COPIAR);
     panel_.PSet({elem->XPos(), elem->YPos()}, ROJO);
+    panel_.DrawMode(Superficie::MODO_NEGRO);
 }
 
 // The notice about what the label would hide; 0 when nothing.

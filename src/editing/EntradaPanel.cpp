@@ -184,6 +184,7 @@ void EntradaPanel::Panel_MouseUp(std::int16_t&, std::int16_t&, float& X, float& 
     refresco_.AnularRefresco();
     Acerca(X, Y, 1);
     trabajo_.bBotonPulsadoSobreElemento = false;
+    trabajo_.bPrensaArrastra = false;
     Suelta(X, Y);
     if (pendiente) refresco_.PedirRefresco();
     refresco_.RefrescarSiPendiente();

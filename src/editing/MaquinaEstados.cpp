@@ -39,6 +39,8 @@ void MaquinaEstados::Estado(std::int32_t nuevoEstado, std::int32_t bRefrescar) t
     const std::int32_t viejo = trabajo_.iEstado;
     const EstadoDelVisor* fila = EstadoDe(nuevoEstado);
     if (fila && fila->entra) (this->*fila->entra)(*fila, viejo, bRefrescar);
+    // However a trace point's drag ends, its trace is searched whole again.
+    if (viejo == E_ARRASTRAR_PUNTO && trabajo_.iEstado != viejo) BorrarInfoExtra();
     trabajo_.iEstadoAnterior = viejo;
     RevisaBarraToolbar1();
 } catch (...) {
@@ -111,7 +113,7 @@ void MaquinaEstados::EntraPreparado(Fila fila, std::int32_t viejo, std::int32_t 
         anfitrion_.SueltaBotones(Barra::Elementos);
         trabajo_.iTipoHerramienta = ctFlecha;
     }
-    if (EsUnoDe(viejo, E_ESCOGER_PUNTO, E_ARRASTRAR_ELEMENTO, E_ARRASTRAR_PUNTO)) BorrarInfoExtra();
+    if (EsUnoDe(viejo, E_ESCOGER_PUNTO, E_ARRASTRAR_ELEMENTO)) BorrarInfoExtra();
     if (viejo == E_DIBUJANDO_CONDUCCION || (viejo >= E_ESPERAR_SUBSISTEMA && viejo <= E_ARRASTRAR_ETIQUETA) ||
         viejo == E_PRUEBAS) {
         BorrarVariablesEstado(false);
@@ -231,14 +233,16 @@ void MaquinaEstados::EntraArrastrarEtiqueta(Fila fila, std::int32_t, std::int32_
     trabajo_.puntoReferencia.reset();
 }
 
-// The selection rectangle, the zoom rectangle and the hand: drags that draw a band by inverting.
-void MaquinaEstados::EntraBanda(Fila fila, std::int32_t, std::int32_t) {
+// The selection rectangle, the zoom rectangle and the hand: drags that draw a band by inverting. The last two
+// may come in the middle of another gesture, whose marks have to go.
+void MaquinaEstados::EntraBanda(Fila fila, std::int32_t viejo, std::int32_t bRefrescar) {
     if (fila.numero == E_MANO) vista_.bVistaActualizada(false);
     refresco_.AnularRefresco();
     Pon(fila);
     panel_.DrawMode(Superficie::MODO_INVERTIR);
     if (fila.numero == E_RECUADRO) return;
     trabajo_.trazadoTemporal.reset();
+    if (!EsUnoDe(viejo, E_ZOOM, E_DIBUJANDO, E_PREPARADO)) Pide(bRefrescar);
     RevisaBarraToolbar1();
     RevisaBarraToolbar2(std::to_string(fila.numero));
 }

@@ -39,6 +39,9 @@ void Seleccion::Pulsa(float X, float Y) {
     prensa_ = {X, Y};
     trabajo_.bPrensaArrastra = true;
     const auto hallado = localizador_.BuscaElemento(X, Y);
+    pulsado_ = hallado;
+    partePulsada_ = trabajo_.iParteEncontrada;
+    bCuerpoPulsado_ = trabajo_.bCuerpoElemento;
     if (!hallado) {
         DejaSinSeleccion();
         return;
@@ -65,11 +68,13 @@ void Seleccion::EmpiezaArrastre(float X, float Y) {
         subsistema_.EmpiezaRecuadro(X, Y);
         return;
     }
-    if (!trabajo_.bElementoYaSeleccionado || !trabajo_.bCuerpoElemento || !trabajo_.elemSeleccionado) return;
+    const auto& elem = trabajo_.elemSeleccionado;
+    // In the meantime the host may have selected another one.
+    if (!trabajo_.bElementoYaSeleccionado || !bCuerpoPulsado_ || !elem || elem != pulsado_.lock()) return;
     trabajo_.bPrensaArrastra = false;
-    if (trabajo_.iParteEncontrada == PARTE_SIMBOLO) {
+    if (partePulsada_ == PARTE_SIMBOLO) {
         estados_.Estado(E_ARRASTRAR_ELEMENTO, 1);
-    } else if (trabajo_.iParteEncontrada == PARTE_ETIQUETA) {
+    } else if (partePulsada_ == PARTE_ETIQUETA) {
         trabajo_.puntoReferencia = std::make_shared<Punto>(prensa_.X, prensa_.Y);
         estados_.Estado(E_ARRASTRAR_ETIQUETA, 1);
     }

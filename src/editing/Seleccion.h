@@ -38,7 +38,12 @@ class Seleccion {
     GestosDeSubsistema& subsistema_;
     Anfitrion& anfitrion_;
 
+    // What the press has hit, and where.
     PuntoXY prensa_{};
+    std::weak_ptr<Elemento> pulsado_;
+    std::int16_t partePulsada_ = 0;
+    bool bCuerpoPulsado_ = false;
+
     const std::string invitacion_;  // to drag the element
     bool invitando_ = false;
 };

@@ -129,8 +129,11 @@ void Pintado::PintaSinMarcas() {
     Avisa(Pinta(*documento_.colElementos, nullptr));
 }
 
+// The underline stays on top: under a conduit's frame, which covers, it could not be erased any more.
 void Pintado::SombreaElemento(const std::shared_ptr<Elemento>& e) {
+    AlternaSubrayado(codSubrayado_);
     zel::SombreaElemento(panel_, AjustesDe(trabajo_, documento_, vista_), e.get());
+    AlternaSubrayado(codSubrayado_);
 }
 
 void Pintado::DesSombreaElemeSelecc(const std::shared_ptr<Elemento>& e) try {

@@ -1,4 +1,7 @@
 // Selecting and moving with the mouse: elements with what is attached to them, labels, trace points.
+#include <map>
+#include <random>
+
 #include "control/ConRaton.h"
 #include "model/Contorno.h"
 
@@ -235,6 +238,130 @@ TEST_F(Movimientos, TheHandlersGoOnWithWhatTheHostHasLeft) {
     EXPECT_EQ(Elem(1), nullptr);
     SeleccionaYArrastra({{100, 100}, {101, 100}, {100, 120}});
     EXPECT_EQ(Traza_(4), "24,100 " + Contorno({100, 120}, {24, 100})) << "a far end that is missing stays";
+}
+
+TEST_F(Movimientos, AThousandAbandonedDragsLeaveThePanelAsAFreshPaintWould) {
+    std::mt19937 azar(5);
+    const auto hasta = [&](std::uint32_t n) { return static_cast<int>(azar() % n); };
+    const auto punto = [&] {
+        const auto x = static_cast<float>(hasta(200));
+        return PuntoXY{x, static_cast<float>(hasta(130))};
+    };
+    const auto tecla = [&](Qt::Key cual, Qt::KeyboardModifiers mayus = {}) {
+        QTest::keyClick(Panel(), cual, mayus);
+    };
+    const std::function<void()> abandonos[] = {
+        [&] { tecla(Qt::Key_M); }, [&] { tecla(Qt::Key_Z, Qt::ShiftModifier); },
+        [&] { esquema.Seleccionar(1 + hasta(9)); }, [&] { tecla(Qt::Key_Escape); },
+        [&] { Parte("HScroll")->setFocus(Qt::TabFocusReason); }};
+    // How each begins, and how many of those give it up.
+    const std::pair<std::function<void()>, std::uint32_t> arrastres[] = {
+        {[&] {
+             Clic({20, 100}), Pulsa({20, 100});
+         },
+         5},
+        {[&] {
+             Clic({60, 20}), Pulsa({60, 20});
+         },
+         5},
+        {[&] {
+             Clic({20, 100}), Pulsa({28, 104});
+         },
+         3},
+        {[&] {
+             Pulsa({130, 125});
+         },
+         3},
+        {[&] {
+             Clic({40, 80}), Orden("menuContextualNodosConduccion"), Pulsa({60, 80});
+         },
+         3},
+        {[&] { Orden("menuVisorSubSistema"), Pulsa(punto()); }, 4},
+        {[&] { EnVentana::Pulsa("zoomRecuadro"), Pulsa(punto()); }, 4},
+        {[&] { EnVentana::Pulsa("mano"), Pulsa(punto()); }, 4},
+        {[&] {
+             EnVentana::Pulsa("conduccion1"), Pulsa({20, 100});
+         },
+         4}};
+    std::map<qint32, QImage> limpias;
+    for (int i = 0; i < 1000; ++i) {
+        const auto& [empieza, modos] = arrastres[hasta(std::size(arrastres))];
+        Panel()->setFocus();
+        empieza();
+        for (int n = hasta(4); n >= 0; --n)
+            Mueve(punto());
+        abandonos[hasta(modos)]();
+        Mueve(punto());
+        const QImage abandonada = Imagen();
+        Suelta(punto());
+        const QImage soltada = Imagen();
+        const auto [limpia, falta] = limpias.try_emplace(esquema.CodigoElemento());
+        if (falta) limpia->second = RecienPintada();
+        ASSERT_EQ(abandonada, limpia->second) << i;
+        ASSERT_EQ(soltada, limpia->second) << i;
+        esquema.Seleccionar(1);
+    }
+    EXPECT_FALSE(esquema.bHabidoCambios());
+    EXPECT_EQ(Elem(5)->Trazado()->Valor(), 0);
+}
+
+TEST_F(Movimientos, OnlyWhatWasPressedIsDragged) {
+    Clic({20, 100}, Qt::MiddleButton);
+    alAnotar = [this](const std::string& suceso) {
+        if (suceso == "Seleccionado 1") esquema.Seleccionar(2);
+    };
+    Arrastra({{20, 100}, {30, 100}, {40, 90}});
+    EXPECT_EQ(Donde(1) + " " + Donde(2), "20,100 100,100");
+    EXPECT_EQ(Sucesos(), "MouseDown; Seleccionado 1; Click; MouseDown; Seleccionado 1; Click");
+    Clic({60, 100});
+    Mueve({140, 130});
+    EXPECT_EQ(Imagen(), RecienPintada()) << "the underline goes from under a conduit's frame";
+}
+
+TEST_F(Movimientos, AnElementAndALabelAreMovedByClicks) {
+    Clic({100, 60});
+    Orden("menuContextualMoverElemento");
+    dialogos.Espera("Elementos superpuestos");
+    Clic({20, 100});
+    Clic({100, 50});
+    EXPECT_EQ(Donde(3), "100,50");
+    EXPECT_EQ(Traza2_(6), "64,20 100,20 " + Contorno({100, 50}, {100, 20}));
+    Clic({100, 50}, Qt::RightButton);
+    Orden("menuContextualMoverEtiqueta");
+    Clic({120, 40});
+    EXPECT_EQ(Cifra(Elem(3)->EtiquetaPosX()) + " " + Cifra(Elem(3)->EtiquetaPosY()), "20 -10");
+    EXPECT_EQ(Sucesos().find("odificado"), std::string::npos);
+    Clic({120, 40}, Qt::RightButton);
+    EXPECT_EQ(Prompt(), "N3");
+    EXPECT_EQ(Imagen(), RecienPintada());
+}
+
+TEST_F(Movimientos, WhatCannotBeConnectedIsToldAndCreatesNothing) {
+    const struct {
+        const char* tipo;
+        Vertices clics;
+        const char* aviso;
+    } filas[] = {{"nudo", {{20, 100}}, "Elementos superpuestos"},
+                 {"toma", {{130, 130}}, "Primero escoja el elemento inicial de la conducción"},
+                 {"conduccion1", {{150, 50}}, "El elemento inicial ha de ser un nodo o embalse"},
+                 {"bombeo", {{20, 100}}, "Los bombeos parten de acuíferos"},
+                 {"subcuenca", {{20, 100}}, "El elemento inicial ha de ser una Aportación"},
+                 {"conduccion2", {{20, 100}, {20, 100}}, "Escoja un elemento final distinto del inicial"},
+                 {"conduccion3", {{20, 100}, {150, 50}}, "Elementos superpuestos. "},
+                 {"recarga", {{20, 100}, {100, 100}}, "El elemento final de la recarga debe ser un acuífero"},
+                 {"toma", {{20, 100}, {100, 100}}, "El elemento final de una toma debe ser una demanda"},
+                 {"centralHE", {{20, 100}, {100, 100}}, "No hay ninguna central hidroeléctrica definida"},
+                 {"retorno", {{20, 100}, {100, 100}}, "Elementos superpuestos"}};
+    for (const auto& [tipo, clics, aviso] : filas) {
+        EnVentana::Pulsa(tipo);
+        dialogos.Espera(aviso);
+        for (const PuntoXY& p : clics)
+            Clic(p);
+        EXPECT_EQ(Sucesos(), clics.size() == 1 ? "MouseDown; Click" : "MouseDown; Click; MouseDown; Click");
+        EnVentana::Pulsa("flecha");
+        EXPECT_EQ(Imagen(), RecienPintada()) << tipo;
+    }
+    EXPECT_EQ(esquema.GetElementos()->Count(), 9);
 }
 
 }  // namespace
