@@ -17,10 +17,6 @@ namespace zel {
 
 namespace {
 
-constexpr std::int16_t NO_ES_NUMERO = 106;
-constexpr std::int16_t VALOR_INCORRECTO = 107;
-constexpr std::int16_t NADA_SELECCIONADO = 108;
-constexpr std::int16_t MENOS_DEL_MINIMO = 109;
 constexpr std::int32_t PREGUNTA_TAMANYO = 5123;
 constexpr std::int32_t PREGUNTA_ETIQUETA = 5124;
 
@@ -129,7 +125,7 @@ void Apariencia::menuContextualTamanyo_Click() {
 bool Apariencia::PideTamanyo() {
     refresco_.AnularRefresco();
     if (!trabajo_.elemSeleccionado) {
-        VuelveAPreguntar(NADA_SELECCIONADO);
+        VuelveAPreguntar(AVISO_NADA_SELECCIONADO);
         return false;
     }
     const std::int32_t codigo = trabajo_.elemSeleccionado->gfCodSIG();
@@ -140,7 +136,7 @@ bool Apariencia::PideTamanyo() {
     if (!respuesta || !e) return false;
     const auto v = NumeroDeUsuario(*respuesta);
     if (!v || *v < p.minimo || *v > p.maximo) {
-        VuelveAPreguntar(v ? VALOR_INCORRECTO : NO_ES_NUMERO);
+        VuelveAPreguntar(v ? AVISO_VALOR_INCORRECTO : AVISO_NO_ES_NUMERO);
         return true;
     }
     PonTamanyo(e, static_cast<float>(*v / p.porUnidad));
@@ -196,7 +192,7 @@ bool Apariencia::PideTamanyoEtiqueta() {
     if (!respuesta || !e) return false;
     const auto v = NumeroDeUsuario(*respuesta);
     if (!v || *v < ETIQUETA_MINIMA) {
-        VuelveAPreguntar(v ? MENOS_DEL_MINIMO : VALOR_INCORRECTO);
+        VuelveAPreguntar(v ? AVISO_MENOS_DEL_MINIMO : AVISO_VALOR_INCORRECTO);
         return true;
     }
     e->EtiquetaTamanyo(static_cast<float>(*v / TANTO_POR_CIENTO));

@@ -7,9 +7,6 @@ namespace zel {
 
 namespace {
 
-constexpr std::int16_t SUPERPUESTOS = 101;
-constexpr std::int16_t SUPERPUESTO_CONSIGO = 125;
-
 // An element may be put onto the piece of a trace that ends at it: the piece follows it anyway.
 bool EsTramoQueSigue(const Elemento& hallado, std::int16_t parte, std::int16_t segmento,
                      std::int32_t codigo) noexcept {
@@ -45,16 +42,16 @@ bool ArrastreElemento::EstorbaEn(float X, float Y, bool tambienElPropio) {
     const auto elem = trabajo_.elemSeleccionado;
     const auto hallado = localizador_.BuscaElemento(X, Y);
     if (!hallado) return false;
-    std::int16_t aviso = 0;
+    NumeroDeAviso aviso = AVISO_NINGUNO;
     if (hallado != elem) {
         if (!EsTramoQueSigue(*hallado, trabajo_.iParteEncontrada, trabajo_.iSegmentoEncontrado,
                              elem->gfCodSIG())) {
-            aviso = SUPERPUESTOS;
+            aviso = AVISO_SUPERPUESTOS;
         }
     } else if (tambienElPropio && !trabajo_.bCuerpoElemento) {
-        aviso = SUPERPUESTO_CONSIGO;
+        aviso = AVISO_SUPERPUESTO_CONSIGO;
     }
-    if (aviso == 0) return false;
+    if (aviso == AVISO_NINGUNO) return false;
     std::int32_t iRefrescar = 1;
     avisos_.LanzaMensaje(aviso, 0, iRefrescar);
     return true;

@@ -6,9 +6,6 @@ namespace zel {
 
 namespace {
 
-constexpr std::int16_t SUPERPUESTOS = 101;
-constexpr std::int16_t SOBRE_SU_CENTRO = 126;
-constexpr std::int16_t SOBRE_UN_ELEMENTO = 128;
 constexpr std::int32_t ROJO = 255;
 
 // The points of the outline: the label's corner, its size, the way from the press to the corner.
@@ -72,12 +69,12 @@ void ArrastreEtiqueta::Arrastra(float X, float Y) {
 }
 
 // The notice about what the label would hide; 0 when nothing.
-std::int16_t ArrastreEtiqueta::Estorbo(const Punto& ancla) {
+NumeroDeAviso ArrastreEtiqueta::Estorbo(const Punto& ancla) {
     const auto hallado = localizador_.BuscaElemento(ancla.XPos(), ancla.YPos());
-    if (hallado && hallado != trabajo_.elemSeleccionado) return SUPERPUESTOS;
-    if (hallado && trabajo_.iParteEncontrada == PARTE_SIMBOLO) return SOBRE_SU_CENTRO;
+    if (hallado && hallado != trabajo_.elemSeleccionado) return AVISO_SUPERPUESTOS;
+    if (hallado && trabajo_.iParteEncontrada == PARTE_SIMBOLO) return AVISO_SOBRE_SU_CENTRO;
     const bool tapa = localizador_.HayElementoBajoEtiqueta(ancla, *trabajo_.trazadoTemporal->Item(TAMANYO));
-    return tapa ? SOBRE_UN_ELEMENTO : 0;
+    return tapa ? AVISO_SOBRE_UN_ELEMENTO : AVISO_NINGUNO;
 }
 
 void ArrastreEtiqueta::Suelta(float X, float Y) {
@@ -88,9 +85,9 @@ void ArrastreEtiqueta::Suelta(float X, float Y) {
     }
     const auto desde = trabajo_.trazadoTemporal->Item(DESDE_LA_PRENSA);
     const Punto ancla(X + desde->XPos(), Y + desde->YPos());
-    const std::int16_t estorbo = Estorbo(ancla);
+    const NumeroDeAviso estorbo = Estorbo(ancla);
     trabajo_.trazadoTemporal.reset();
-    if (estorbo != 0) {
+    if (estorbo != AVISO_NINGUNO) {
         std::int32_t iRefrescar = 1;
         avisos_.LanzaMensaje(estorbo, 0, iRefrescar);
         estados_.Estado(E_PREPARADO, 1);

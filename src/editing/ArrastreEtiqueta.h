@@ -23,7 +23,7 @@ class ArrastreEtiqueta {
     void Suelta(float X, float Y);
 
   private:
-    std::int16_t Estorbo(const Punto& ancla);
+    NumeroDeAviso Estorbo(const Punto& ancla);
     void PonEtiqueta(Elemento& elem, float X, float Y);
 
     Superficie& panel_;

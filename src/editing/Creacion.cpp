@@ -18,7 +18,7 @@ namespace zel {
 namespace {
 
 constexpr std::int16_t BOTON_DERECHO = 2;
-constexpr AvisoDeConexion SUPERPUESTOS{101};
+constexpr AvisoDeConexion SUPERPUESTOS{AVISO_SUPERPUESTOS};
 constexpr float TOLERANCIA = 0.5F;  // of a trace, in TamanyoUnidad
 constexpr float TAMANYO_DEL_SIMBOLO = 1;
 

@@ -12,9 +12,6 @@ namespace {
 constexpr std::int16_t BOTON_IZQUIERDO = 1;
 constexpr std::int16_t BOTON_DERECHO = 2;
 constexpr std::int16_t BOTON_CENTRAL = 4;
-constexpr std::int16_t MAXIMO_ZOOM = 111;
-constexpr std::int16_t MINIMO_ZOOM = 112;
-constexpr std::int16_t HAGA_DOBLE_CLIC_SOBRE_UN_ELEMENTO = 113;
 // The widths between which a click zooms, in TamanyoUnidad.
 constexpr float ANCHO_MAS_CERCANO = 10;
 constexpr float ANCHO_MAS_LEJANO = 4000;
@@ -229,7 +226,7 @@ void EntradaPanel::Panel_DblClick() try {
         if (const auto elem = trabajo_.elemSeleccionado)
             anfitrion_.EditarElemento(elem->gfCodSIG());
         else
-            avisos_.LanzaMensaje(HAGA_DOBLE_CLIC_SOBRE_UN_ELEMENTO, 0, iRefrescar);
+            avisos_.LanzaMensaje(AVISO_HAGA_DOBLE_CLIC_SOBRE_UN_ELEMENTO, 0, iRefrescar);
     }
     refresco_.PedirRefresco();
     refresco_.RefrescarSiPendiente();
@@ -251,12 +248,12 @@ void EntradaPanel::ClicDeZoom(float X, float Y) {
         if (ancho > ANCHO_MAS_CERCANO * r)
             escala(0.5F);
         else
-            avisos_.LanzaMensaje(MAXIMO_ZOOM, 0, iRefrescar);
+            avisos_.LanzaMensaje(AVISO_MAXIMO_ZOOM, 0, iRefrescar);
     } else if (anfitrion_.BotonPulsado(Barra::Vista, "zoommenos")) {
         if (ancho < ANCHO_MAS_LEJANO * r)
             escala(2);
         else
-            avisos_.LanzaMensaje(MINIMO_ZOOM, 0, iRefrescar);
+            avisos_.LanzaMensaje(AVISO_MINIMO_ZOOM, 0, iRefrescar);
     }
     PonFuente(panel_, vista_.EscalaDibujo() / panel_.ScaleWidth(), trabajo_.iEstado);
     vista_.MueveScroll(X, Y, 2);

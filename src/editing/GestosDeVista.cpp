@@ -16,8 +16,6 @@ namespace zel {
 
 namespace {
 
-constexpr std::int16_t NO_ES_NUMERO = 106;
-constexpr std::int16_t VALOR_INCORRECTO = 107;
 constexpr std::int32_t PREGUNTA_ZOOM = 5127;
 constexpr double PASO_DE_FLOAT = 1;  // no two neighbours in the world are that far apart
 
@@ -125,12 +123,12 @@ void GestosDeVista::ZoomDelUsuario() {
     if (!respuesta || respuesta->empty()) return;
     const auto porcentaje = NumeroDeUsuario(*respuesta);
     if (!porcentaje) {
-        avisos_.LanzaMensaje(NO_ES_NUMERO, 0, iRefrescar);
+        avisos_.LanzaMensaje(AVISO_NO_ES_NUMERO, 0, iRefrescar);
         return;
     }
     const double z = *porcentaje / 100;
     if (z < 0.01) {
-        avisos_.LanzaMensaje(VALOR_INCORRECTO, 0, iRefrescar);
+        avisos_.LanzaMensaje(AVISO_VALOR_INCORRECTO, 0, iRefrescar);
         return;
     }
     vista_.AjustarZoomUsuario(panel_, static_cast<float>(z), false, true, 2);

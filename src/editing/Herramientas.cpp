@@ -8,9 +8,6 @@ namespace zel {
 
 namespace {
 
-constexpr std::int16_t ESCOJA_QUE_BORRAR = 104;
-constexpr std::int16_t NADA_SELECCIONADO = 108;
-
 bool EsDeConduccion(TipoElemento tipo) noexcept {
     return tipo >= ctConduccion1 && tipo <= ctConduccion5;
 }
@@ -76,7 +73,7 @@ void Herramientas::Ejecuta(std::string_view clave) {
         if (const auto& e = trabajo_.elemSeleccionado)
             vista_.MueveScroll(e->XPos(), e->YPos(), 2);
         else
-            avisos_.LanzaMensaje(NADA_SELECCIONADO, 0, iRefrescar);
+            avisos_.LanzaMensaje(AVISO_NADA_SELECCIONADO, 0, iRefrescar);
     } else if (clave == "zoomRecuadro") {
         estados_.Estado(E_RECUADRO_ZOOM, 1);
     } else if (clave == "mano") {
@@ -88,7 +85,7 @@ void Herramientas::PreguntaBorrado() try {
     refresco_.AnularRefresco();
     std::int32_t iRefrescar = 1;
     if (!trabajo_.elemSeleccionado)
-        avisos_.LanzaMensaje(ESCOJA_QUE_BORRAR, 0, iRefrescar);
+        avisos_.LanzaMensaje(AVISO_ESCOJA_QUE_BORRAR, 0, iRefrescar);
     else
         anfitrion_.PeticionBorrado(trabajo_.elemSeleccionado->gfCodSIG());
     refresco_.PedirRefresco();

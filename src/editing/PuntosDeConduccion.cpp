@@ -14,9 +14,6 @@ namespace zel {
 
 namespace {
 
-constexpr std::int16_t SUPERPUESTOS = 101;
-constexpr std::int16_t PUNTOS_SUPERPUESTOS = 102;
-constexpr std::int16_t TRAMOS_SUPERPUESTOS = 103;
 constexpr float ALCANCE = 0.9F;  // of a trace point, in TamanyoUnidad
 constexpr float TOLERANCIA = 0.5F;
 
@@ -181,10 +178,10 @@ bool PuntosDeConduccion::CaeSobreOtroTramo(float X, float Y) {
 }
 
 // The notice about what lies under the point; 0 for nothing.
-std::int16_t PuntosDeConduccion::Estorbo(float X, float Y) {
-    if (EstorbaOtro(X, Y)) return SUPERPUESTOS;
-    if (CaeSobreOtroPunto(X, Y)) return PUNTOS_SUPERPUESTOS;
-    return CaeSobreOtroTramo(X, Y) ? TRAMOS_SUPERPUESTOS : 0;
+NumeroDeAviso PuntosDeConduccion::Estorbo(float X, float Y) {
+    if (EstorbaOtro(X, Y)) return AVISO_SUPERPUESTOS;
+    if (CaeSobreOtroPunto(X, Y)) return AVISO_PUNTOS_SUPERPUESTOS;
+    return CaeSobreOtroTramo(X, Y) ? AVISO_TRAMOS_SUPERPUESTOS : AVISO_NINGUNO;
 }
 
 void PuntosDeConduccion::Escribe() {
@@ -205,9 +202,9 @@ void PuntosDeConduccion::Suelta(float X, float Y) {
     const auto elem = trabajo_.elemSeleccionado;
     const auto trazado = TrazadoDe(*elem, bSegundoTrazado_);
     MuevePunto(X, Y);
-    const std::int16_t estorbo = Estorbo(X, Y);
+    const NumeroDeAviso estorbo = Estorbo(X, Y);
     trazado->Valor(0);
-    if (estorbo != 0) {
+    if (estorbo != AVISO_NINGUNO) {
         std::int32_t iRefrescar = 1;
         avisos_.LanzaMensaje(estorbo, 0, iRefrescar);
         trabajo_.puntoReferencia.reset();

@@ -31,7 +31,7 @@ class PuntosDeConduccion {
     void MuevePunto(float X, float Y);
     void E_14_CorrigePuntos();
     bool SigueEscogido() const;
-    std::int16_t Estorbo(float X, float Y);
+    NumeroDeAviso Estorbo(float X, float Y);
     bool EstorbaOtro(float X, float Y);
     bool CaeSobreOtroPunto(float X, float Y) const;
     bool CaeSobreOtroTramo(float X, float Y);

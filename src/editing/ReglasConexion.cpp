@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "session/NumeroDeAviso.h"
+
 namespace zel {
 
 namespace {
@@ -19,18 +21,18 @@ bool Admite(Tipos tipos, TipoElemento tipo) noexcept {
 constexpr Tipos NINGUNO = 0;
 constexpr Tipos NUDO_O_EMBALSE = Solo(ctNudo) | Solo(ctEmbalse);
 
-constexpr AvisoDeConexion SUPERPUESTOS{101};
-constexpr AvisoDeConexion FALTA_EL_INICIAL{114};
-constexpr AvisoDeConexion INICIA_EN_NODO{115};
-constexpr AvisoDeConexion INICIA_EN_ACUIFERO{116};
-constexpr AvisoDeConexion YA_TIENE_SIMBOLO{117};
-constexpr AvisoDeConexion FINAL_DISTINTO{118};
-constexpr AvisoDeConexion TERMINA_EN_NODO{119};
-constexpr AvisoDeConexion NO_EN_ESE{101, 119};
-constexpr AvisoDeConexion TERMINA_EN_ACUIFERO{120};
-constexpr AvisoDeConexion TERMINA_EN_DEMANDA{121};
-constexpr AvisoDeConexion FALTA_LA_CENTRAL{122};
-constexpr AvisoDeConexion INICIA_EN_APORTACION{231};
+constexpr AvisoDeConexion SUPERPUESTOS{AVISO_SUPERPUESTOS};
+constexpr AvisoDeConexion FALTA_EL_INICIAL{AVISO_FALTA_EL_INICIAL};
+constexpr AvisoDeConexion INICIA_EN_NODO{AVISO_INICIA_EN_NODO};
+constexpr AvisoDeConexion INICIA_EN_ACUIFERO{AVISO_INICIA_EN_ACUIFERO};
+constexpr AvisoDeConexion YA_TIENE_SIMBOLO{AVISO_YA_TIENE_SIMBOLO};
+constexpr AvisoDeConexion FINAL_DISTINTO{AVISO_FINAL_DISTINTO};
+constexpr AvisoDeConexion TERMINA_EN_NODO{AVISO_TERMINA_EN_NODO};
+constexpr AvisoDeConexion NO_EN_ESE{AVISO_SUPERPUESTOS, AVISO_TERMINA_EN_NODO};
+constexpr AvisoDeConexion TERMINA_EN_ACUIFERO{AVISO_TERMINA_EN_ACUIFERO};
+constexpr AvisoDeConexion TERMINA_EN_DEMANDA{AVISO_TERMINA_EN_DEMANDA};
+constexpr AvisoDeConexion FALTA_LA_CENTRAL{AVISO_FALTA_LA_CENTRAL};
+constexpr AvisoDeConexion INICIA_EN_APORTACION{AVISO_INICIA_EN_APORTACION};
 
 constexpr ReglaConexion DeConduccion(TipoElemento tipo) noexcept {
     return {tipo, NUDO_O_EMBALSE, INICIA_EN_NODO, NUDO_O_EMBALSE, NO_EN_ESE, SimboloDelTrazado::Ninguno,

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "session/NumeroDeAviso.h"
 #include "session/Refresco.h"
 #include "session/Trabajo.h"
 

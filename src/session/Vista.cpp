@@ -14,8 +14,6 @@ namespace {
 
 constexpr float AREA_MUNDO = 5004000.0F * 2505000.0F;
 
-constexpr std::int16_t MAXIMO_ZOOM = 111;
-constexpr std::int16_t MINIMO_ZOOM = 112;
 constexpr double AREA_MAS_LEJANA = 1.45 * AREA_MUNDO;
 constexpr double VISTA_MAS_CERCANA = 10;  // units of TamanyoUnidad across the view
 constexpr double TOLERANCIA = 1e-5;
@@ -151,13 +149,13 @@ bool Vista::AjustarZoomUsuario(Superficie& picture, float z, bool bMantenerCentr
         s = AnchoMasCercano();
         z = static_cast<float>(double{s} * s / relacionAspecto_ / areaActiva_);
         if (zoom_ <= z * (1 + TOLERANCIA)) {
-            avisos_.LanzaMensaje(MAXIMO_ZOOM, 0, iRefrescar);
+            avisos_.LanzaMensaje(AVISO_MAXIMO_ZOOM, 0, iRefrescar);
             refresco_.RefrescarSiPendiente();
             return false;
         }
     }
     if (double{z} * areaActiva_ > AREA_MAS_LEJANA) {
-        avisos_.LanzaMensaje(MINIMO_ZOOM, 0, iRefrescar);
+        avisos_.LanzaMensaje(AVISO_MINIMO_ZOOM, 0, iRefrescar);
         refresco_.RefrescarSiPendiente();
         return false;
     }
