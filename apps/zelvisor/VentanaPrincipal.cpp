@@ -8,8 +8,6 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QTimer>
-#include <QWheelEvent>
-#include <cmath>
 
 #include "Ajustes.h"
 #include "Ayuda.h"
@@ -25,8 +23,6 @@ namespace {
 
 constexpr double ACERCA = 0.5;  // of the visible area
 constexpr double ALEJA = 2.0;
-constexpr double PASO = 0.1;  // of the visible width or height
-constexpr double GRADOS_POR_MUESCA = 120;
 constexpr int MIRA_CAMBIOS_MS = 200;
 const QString GEOMETRIA = QStringLiteral("ventana/geometria");
 
@@ -173,28 +169,6 @@ void VentanaPrincipal::dropEvent(QDropEvent* evento) {
     evento->acceptProposedAction();
     // Who dragged it waits until this returns, and a question may come.
     QTimer::singleShot(0, this, [this, ruta] { DiloSiFalla([&] { documentos_.Abre(ruta); }); });
-}
-
-// A closer view for each notch away from the user; a touchpad sends parts of a notch.
-void VentanaPrincipal::CambiaZoomConRueda(double muescas) {
-    const bool acercando = muescas > 0;
-    if (muescas == 0 || negado_ == (acercando ? Sentido::Cerca : Sentido::Lejos)) return;
-    const bool hecho = esquema_->CambiaZoom(std::pow(ACERCA, muescas));
-    // One notice is enough: the wheel goes on turning.
-    negado_ = hecho ? Sentido::Ninguno : acercando ? Sentido::Cerca : Sentido::Lejos;
-}
-
-void VentanaPrincipal::wheelEvent(QWheelEvent* evento) {
-    DiloSiFalla([&] {
-        const double muescas = evento->angleDelta().y() / GRADOS_POR_MUESCA;
-        if (evento->modifiers() & Qt::ControlModifier)
-            CambiaZoomConRueda(muescas);
-        else if (evento->modifiers() & Qt::ShiftModifier)
-            esquema_->DesplazaVista(-muescas * PASO, 0);
-        else
-            esquema_->DesplazaVista(-evento->angleDelta().x() / GRADOS_POR_MUESCA * PASO, muescas * PASO);
-    });
-    evento->accept();
 }
 
 }  // namespace zel

@@ -23,7 +23,6 @@ class VentanaPrincipal : public QMainWindow {
     bool Abre(const QString& ruta) { return documentos_.Abre(ruta); }
 
   protected:
-    void wheelEvent(QWheelEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
     void dragEnterEvent(QDragEnterEvent* evento) override;
     void dropEvent(QDropEvent* evento) override;
@@ -39,16 +38,11 @@ class VentanaPrincipal : public QMainWindow {
     void AbreReciente(const QString& ruta);
     void MuestraAyuda();
     void PonTitulo();
-    void CambiaZoomConRueda(double muescas);
-
-    // The direction in which the last turn of the wheel reached the end of the zoom.
-    enum class Sentido { Ninguno, Cerca, Lejos };
 
     Esquema* esquema_;
     Adjuntos adjuntos_;
     Documentos documentos_;
     AvisosDeFallo fallos_;
-    Sentido negado_ = Sentido::Ninguno;
 };
 
 }  // namespace zel

@@ -29,6 +29,7 @@ bool EsEntrada(const QEvent& evento) {
         case QEvent::KeyRelease:
         case QEvent::ShortcutOverride:
         case QEvent::Wheel:
+        case QEvent::NativeGesture:
         case QEvent::ContextMenu:
         case QEvent::InputMethod:
         case QEvent::TouchBegin:
@@ -315,18 +316,6 @@ bool Esquema::CambiaZoom(double factor) {
     p.ajustaAlMostrar = false;
     return p.vista.AjustarZoomUsuario(p.panel->lienzo(), static_cast<float>(p.vista.Zoom() * factor), true,
                                       true, 1);
-}
-
-void Esquema::DesplazaVista(double ancho, double alto) {
-    Llamada(". Error en método DesplazaVista (Esquema)", [&] {
-        Partes& p = *partes_;
-        if (!std::isfinite(ancho) || !std::isfinite(alto)) throw Fallo(5);
-        p.ExigeDisposicion();
-        p.ajustaAlMostrar = false;
-        const Lienzo& lienzo = p.panel->lienzo();
-        p.vista.MueveScroll(lienzo.ScaleLeft() + lienzo.ScaleWidth() * static_cast<float>(0.5 + ancho),
-                            lienzo.ScaleTop() + lienzo.ScaleHeight() * static_cast<float>(0.5 - alto), 1);
-    });
 }
 
 void Esquema::textoStatBar(const QString& texto) {

@@ -23,6 +23,9 @@ namespace zel {
 // all repaint at most once. A call or an event whose host destroys the control meanwhile (in a slot, or while
 // one of its boxes is open) ends there; a call raises.
 //
+// The wheel scrolls (with Shift sideways) and, with Ctrl, zooms around the mouse, as a pinch does; the middle
+// button drags the view from where there is no element. A move of the view raises no event.
+//
 // Parts, found by their object name: Panel, HScroll, VScroll, ToolBar1, ToolBar2, StatusBar1, Line1, Line2,
 // FrameImagenFondo with its boxes. Menu commands are QActions named after their item.
 //
@@ -131,9 +134,6 @@ class Esquema : public QFrame {
     // The zoom times the factor, around the centre: below 1 a closer view. False when that would be beyond
     // the closest or the farthest view, which a notice has told.
     bool CambiaZoom(double factor);
-    // Moves the view by shares of its width and height, to the right and upwards. Raises for what is no
-    // number.
-    void DesplazaVista(double ancho, double alto);
 
     void textoStatBar(const QString& texto);
 

@@ -1,19 +1,28 @@
 #include "control/PanelDibujo.h"
 
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QMouseEvent>
+#include <QNativeGestureEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QResizeEvent>
 #include <QTimer>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace zel {
 
 namespace {
 constexpr double MM_POR_PULGADA = 25.4;
-}
+constexpr double OCTAVOS_POR_MUESCA = 120;       // of a degree
+constexpr double PARTE_POR_MUESCA = 0.1;         // of the panel
+const double VECES_POR_MUESCA = std::sqrt(2.0);  // half the area
+constexpr double VECES_MINIMAS = 0.1;            // of one step of a pinch
+}  // namespace
 
 PanelDibujo::PanelDibujo(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("Panel"));
@@ -123,6 +132,34 @@ void PanelDibujo::mouseDoubleClickEvent(QMouseEvent* evento) {
         mousePressEvent(evento);
     else
         emit DobleClic();
+}
+
+// Pixels where the device tells them; on X11 they are the driver's invention. A touchpad sends parts of a
+// notch, and the beginning and the end of a turn as none.
+void PanelDibujo::wheelEvent(QWheelEvent* evento) {
+    evento->accept();
+    const QPointF en = EnPartes(evento->position());
+    const QPointF muescas = QPointF(evento->angleDelta()) / OCTAVOS_POR_MUESCA;
+    if (evento->modifiers() & Qt::ControlModifier) {
+        if (muescas.y() != 0) emit Ampliado(std::pow(VECES_POR_MUESCA, muescas.y()), en);
+        return;
+    }
+    const bool hayPixeles =
+        !evento->pixelDelta().isNull() && QGuiApplication::platformName() != QStringLiteral("xcb");
+    QPointF giro = hayPixeles ? QPointF(evento->pixelDelta()) : muescas * PARTE_POR_MUESCA;
+    // Some platforms turn it sideways themselves.
+    if (evento->modifiers() & Qt::ShiftModifier) giro = {giro.x() + giro.y(), 0};
+    if (giro.isNull()) return;
+    if (hayPixeles) giro = EnPartes(giro);
+    emit Empujado(giro.x(), giro.y(), en);
+}
+
+bool PanelDibujo::event(QEvent* evento) {
+    if (evento->type() != QEvent::NativeGesture) return QWidget::event(evento);
+    const auto& gesto = static_cast<const QNativeGestureEvent&>(*evento);
+    if (gesto.gestureType() != Qt::ZoomNativeGesture) return QWidget::event(evento);
+    emit Ampliado(std::max(VECES_MINIMAS, 1 + gesto.value()), EnPartes(gesto.position()));
+    return true;
 }
 
 }  // namespace zel

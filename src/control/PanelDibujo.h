@@ -40,8 +40,14 @@ class PanelDibujo : public QWidget {
     // no click. Two presses of the right button are two presses.
     void Clic();
     void DobleClic();
+    // The wheel or fingers on a touchpad ask for the drawing to move by shares of the panel's width and
+    // height, to the right and downwards, or to become that many times larger; with the mouse at that share
+    // of the panel from its top left corner.
+    void Empujado(double anchos, double altos, QPointF en);
+    void Ampliado(double veces, QPointF en);
 
   protected:
+    bool event(QEvent* evento) override;
     void paintEvent(QPaintEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
     void focusInEvent(QFocusEvent* evento) override;
@@ -50,9 +56,11 @@ class PanelDibujo : public QWidget {
     void mouseMoveEvent(QMouseEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
     void mouseDoubleClickEvent(QMouseEvent* evento) override;
+    void wheelEvent(QWheelEvent* evento) override;
 
   private:
     PuntoXY EnElMundo(QPointF punto) const;
+    QPointF EnPartes(QPointF pixeles) const { return {pixeles.x() / width(), pixeles.y() / height()}; }
 
     Lienzo lienzo_;
     bool hayClic_ = false;  // the press is half a click

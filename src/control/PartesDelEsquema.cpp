@@ -42,7 +42,8 @@ Esquema::Partes::Partes(Esquema& dueno)
       localizador(panel->lienzo(), documento, trabajo, vista,
                   [this](std::int32_t codigo) { pintado.SubrayaElem(codigo); }),
       estados(panel->lienzo(), documento, trabajo, refresco, vista, conexiones, *this),
-      gestos(panel->lienzo(), trabajo, refresco, vista, avisos, estados, [this] { UserControl_Resize(); }),
+      gestos(panel->lienzo(), trabajo, refresco, vista, desplazamiento, avisos, estados,
+             [this] { UserControl_Resize(); }),
       herramientas(panel->lienzo(), trabajo, refresco, vista, avisos, estados, gestos, *this),
       gestosDeSubsistema(panel->lienzo(), trabajo, pintado, localizador, estados),
       seleccion(panel->lienzo(), trabajo, pintado, localizador, estados, gestosDeSubsistema, *this),
@@ -116,7 +117,11 @@ void Esquema::Partes::Conecta() {
 
 void Esquema::Partes::ConectaRaton() {
     using Atiende = void (EntradaPanel::*)(std::int16_t&, std::int16_t&, float&, float&);
-    QObject::connect(panel, &PanelDibujo::Pulsado, &esquema, [this] { teclado.PanelPulsado(); });
+    // What is pressed is what is seen.
+    QObject::connect(panel, &PanelDibujo::Pulsado, &esquema, [this] {
+        teclado.PanelPulsado();
+        EnEntrada([this] { refresco.RefrescarSiSeDebe(); });
+    });
     const auto raton = [&](auto senal, Atiende atiende) {
         QObject::connect(panel, senal, &esquema,
                          [this, atiende](qint16 boton, qint16 mayus, float x, float y) {
@@ -126,6 +131,13 @@ void Esquema::Partes::ConectaRaton() {
     raton(&PanelDibujo::Pulsado, &EntradaPanel::Panel_MouseDown);
     raton(&PanelDibujo::Movido, &EntradaPanel::Panel_MouseMove);
     raton(&PanelDibujo::Soltado, &EntradaPanel::Panel_MouseUp);
+    QObject::connect(
+        panel, &PanelDibujo::Empujado, &esquema, [this](double anchos, double altos, QPointF en) {
+            EnEntrada([&] { gestos.Empuja(anchos, altos, PuntoXY{float(en.x()), float(en.y())}); });
+        });
+    QObject::connect(panel, &PanelDibujo::Ampliado, &esquema, [this](double veces, QPointF en) {
+        EnEntrada([&] { gestos.Amplia(veces, PuntoXY{float(en.x()), float(en.y())}); });
+    });
     QObject::connect(panel, &PanelDibujo::Clic, &esquema,
                      [this] { EnEntrada([this] { entrada.Panel_Click(); }); });
     QObject::connect(panel, &PanelDibujo::DobleClic, &esquema,
@@ -181,14 +193,23 @@ void Esquema::Partes::BarraElementosActiva(bool activa) {
 }
 
 void Esquema::Partes::RefrescaCuandoHayaCalma() {
-    if (refrescoPrevisto || !refresco.bRefrescoPendiente() || Pintado::TieneContornos(trabajo.iEstado))
-        return;
+    const bool hace = refresco.bRefrescoPendiente() || refresco.bRefrescoDebido();
+    if (refrescoPrevisto || !hace || Pintado::HayArrastre(trabajo)) return;
     refrescoPrevisto = true;
     QTimer::singleShot(0, &esquema, [this] {
         refrescoPrevisto = false;
-        if (Pintado::TieneContornos(trabajo.iEstado)) return;
-        EnEvento([this] { refresco.RefrescarSiPendiente(); });
+        if (!Pintado::HayArrastre(trabajo)) EnEvento([this] { RefrescaEnCalma(); });
     });
+}
+
+// The segment that a click would add is not painted: it begins anew from where the mouse is.
+void Esquema::Partes::RefrescaEnCalma() {
+    const bool vistaMovida = refresco.bRefrescoDebido();
+    refresco.RefrescarSiSeDebe();
+    refresco.RefrescarSiPendiente();
+    if (vistaMovida && trabajo.iEstado == E_DIBUJANDO_CONDUCCION) {
+        creacion.Mueve(trabajo.ultimoRaton.X, trabajo.ultimoRaton.Y);
+    }
 }
 
 // --- Layout -----------------------------------------------------------------------------------------------

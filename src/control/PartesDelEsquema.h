@@ -99,6 +99,7 @@ struct Esquema::Partes : public Anfitrion {
     // A repaint that was asked for, and that nobody performs, is performed once the events in waiting are
     // through, unless a drag is under way then.
     void RefrescaCuandoHayaCalma();
+    void RefrescaEnCalma();
     // Raises when the host has destroyed the control meanwhile.
     template <typename Emite>
     void Emitido(Emite emite) {

@@ -55,6 +55,8 @@ EntradaPanel::EntradaPanel(Superficie& panel, Trabajo& trabajo, Refresco& refres
 
 void EntradaPanel::Panel_MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) try {
     refresco_.AnularRefresco();
+    raton_ = {X, Y};
+    gestos_.vista.SueltaVista();
     // A new symbol has room there.
     const auto margen = [&] { return Dibuja(trabajo_.iEstado) ? TamanyoUnidad() + 1 : 1; };
     Acerca(X, Y, margen());
@@ -82,7 +84,7 @@ void EntradaPanel::Pulsa(std::int16_t Button, float X, float Y) {
         case E_DIBUJANDO_CONDUCCION:
             return gestos_.creacion.Pulsa(Button, X, Y);
         case E_PREPARADO:
-            return gestos_.seleccion.Pulsa(X, Y);
+            return PulsaPreparado(Button, X, Y);
         case E_MOVER_ELEMENTO:
             return gestos_.elemento.MueveAlInstante(X, Y);
         case E_MOVER_ETIQUETA:
@@ -102,6 +104,14 @@ void EntradaPanel::Pulsa(std::int16_t Button, float X, float Y) {
         default:
             return;
     }
+}
+
+// Whether it is to move the view or to deselect shows when it moves, or is released.
+void EntradaPanel::PulsaPreparado(std::int16_t Button, float X, float Y) {
+    if (Button == BOTON_CENTRAL && !gestos_.seleccion.HayElementoEn(X, Y))
+        gestos_.vista.Ase(raton_);
+    else
+        gestos_.seleccion.Pulsa(X, Y);
 }
 
 void EntradaPanel::PulsaElDerecho(float X, float Y) {
@@ -127,6 +137,7 @@ void EntradaPanel::PulsaElDerecho(float X, float Y) {
 void EntradaPanel::Panel_MouseMove(std::int16_t& Button, std::int16_t&, float& X, float& Y) try {
     const bool pendiente = refresco_.bRefrescoPendiente();
     refresco_.AnularRefresco();
+    raton_ = {X, Y};
     Acerca(X, Y, 1);
     estados_.MuestraPosicion(X, Y);
     trabajo_.ultimoRaton = {X, Y};
@@ -138,6 +149,10 @@ void EntradaPanel::Panel_MouseMove(std::int16_t& Button, std::int16_t&, float& X
 
 void EntradaPanel::Mueve(std::int16_t Button, float X, float Y) {
     const bool arrastra = (Button & (BOTON_IZQUIERDO | BOTON_CENTRAL)) != 0;
+    if (gestos_.vista.VistaAsida()) {
+        if (arrastra && trabajo_.iEstado == E_PREPARADO) return gestos_.vista.Lleva(raton_);
+        gestos_.vista.SueltaVista();
+    }
     if (trabajo_.iEstado == E_DIBUJANDO_CONDUCCION) return gestos_.creacion.Mueve(X, Y);
     if (Button == 0) {
         if (trabajo_.iEstado == E_PREPARADO) gestos_.seleccion.Sobrevuela(X, Y);
@@ -177,8 +192,10 @@ void EntradaPanel::Panel_MouseUp(std::int16_t&, std::int16_t&, float& X, float& 
 }
 
 void EntradaPanel::Suelta(float X, float Y) {
+    const bool clicEnVacio = gestos_.vista.SueltaVista();
     switch (trabajo_.iEstado) {
         case E_PREPARADO:
+            if (clicEnVacio) gestos_.seleccion.DejaSinSeleccion();
             return gestos_.seleccion.Suelta();
         case E_LAZO:
             return gestos_.subsistema.CierraLazo(X, Y);

@@ -13,7 +13,8 @@ namespace zel {
 
 // The panel's mouse, in world units. Buttons: 1 left, 2 right, 4 middle; of a move, those held. Shift: 1
 // Shift
-// + 2 Ctrl + 4 Alt. What a button does is up to the state; the middle one acts as the left one.
+// + 2 Ctrl + 4 Alt. What a button does is up to the state; the middle one acts as the left one, but for a
+// drag beside all elements in the ready state, which moves the view and leaves the selection.
 class EntradaPanel {
   public:
     // What the mouse does, family by family.
@@ -42,6 +43,7 @@ class EntradaPanel {
     void PulsaElDerecho(float X, float Y);
     void Mueve(std::int16_t Button, float X, float Y);
     void Suelta(float X, float Y);
+    void PulsaPreparado(std::int16_t Button, float X, float Y);
     void ClicDeZoom(float X, float Y);
 
     Superficie& panel_;
@@ -52,6 +54,7 @@ class EntradaPanel {
     MaquinaEstados& estados_;
     Gestos gestos_;
     Anfitrion& anfitrion_;
+    PuntoXY raton_{};  // beyond the world too
 };
 
 }  // namespace zel

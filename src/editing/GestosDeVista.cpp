@@ -2,12 +2,15 @@
 
 #include <cmath>
 
+#include "drawing/Cursores.h"
 #include "drawing/Marcas.h"
 #include "drawing/NumeroDeEstado.h"
 #include "model/Mensajes.h"
 #include "model/modErrorHandling.h"
 #include "platform/Dialogos.h"
 #include "platform/Numeros.h"
+#include "session/Extension.h"
+#include "session/Pintado.h"
 
 namespace zel {
 
@@ -16,6 +19,7 @@ namespace {
 constexpr std::int16_t NO_ES_NUMERO = 106;
 constexpr std::int16_t VALOR_INCORRECTO = 107;
 constexpr std::int32_t PREGUNTA_ZOOM = 5127;
+constexpr double PASO_DE_FLOAT = 1;  // no two neighbours in the world are that far apart
 
 std::shared_ptr<Puntos> Cadena(std::initializer_list<PuntoXY> puntos) {
     auto cadena = std::make_shared<Puntos>();
@@ -27,11 +31,13 @@ std::shared_ptr<Puntos> Cadena(std::initializer_list<PuntoXY> puntos) {
 }  // namespace
 
 GestosDeVista::GestosDeVista(Superficie& panel, Trabajo& trabajo, Refresco& refresco, Vista& vista,
-                             Avisos& avisos, MaquinaEstados& estados, std::function<void()> dispone)
+                             Desplazamiento& desplazamiento, Avisos& avisos, MaquinaEstados& estados,
+                             std::function<void()> dispone)
     : panel_(panel),
       trabajo_(trabajo),
       refresco_(refresco),
       vista_(vista),
+      desplazamiento_(desplazamiento),
       avisos_(avisos),
       estados_(estados),
       dispone_(std::move(dispone)) {}
@@ -128,6 +134,69 @@ void GestosDeVista::ZoomDelUsuario() {
         return;
     }
     vista_.AjustarZoomUsuario(panel_, static_cast<float>(z), false, true, 2);
+}
+
+bool GestosDeVista::PuedeMoverse() const noexcept {
+    return !VistaAsida() && !Pintado::HayArrastre(trabajo_);
+}
+
+// At the world's edge nothing is left over.
+void GestosDeVista::MueveVista(double dx, double dy) {
+    const Superficie::Escala e = panel_.escala();
+    vista_.MueveScroll(static_cast<float>(double{e.Left} + e.Width / 2 + dx),
+                       static_cast<float>(double{e.Top} + e.Height / 2 + dy), 2);
+    const auto resto = [](double pedido, double hecho) {
+        return std::abs(pedido - hecho) < PASO_DE_FLOAT ? pedido - hecho : 0;
+    };
+    restoX_ = resto(dx, double{panel_.ScaleLeft()} - e.Left);
+    restoY_ = resto(dy, double{panel_.ScaleTop()} - e.Top);
+}
+
+// The mouse, where it was on the panel, is elsewhere in the world.
+void GestosDeVista::VistaMovida(PuntoXY en) {
+    desplazamiento_.SigueALaVista();
+    refresco_.DebeRefresco();
+    const Superficie::Escala e = panel_.escala();
+    PuntoXY raton{e.Left + en.X * e.Width, e.Top + en.Y * e.Height};
+    LimitaAlMundo(raton.X, raton.Y);
+    trabajo_.ultimoRaton = raton;
+    estados_.MuestraPosicion(raton.X, raton.Y);
+}
+
+void GestosDeVista::Empuja(double anchos, double altos, PuntoXY en) {
+    if (!PuedeMoverse()) return;
+    MueveVista(restoX_ - anchos * panel_.ScaleWidth(), restoY_ - altos * panel_.ScaleHeight());
+    VistaMovida(en);
+}
+
+void GestosDeVista::Amplia(double veces, PuntoXY en) {
+    if (PuedeMoverse() && vista_.AmpliaEn(veces, en)) VistaMovida(en);
+}
+
+void GestosDeVista::Ase(PuntoXY raton) noexcept {
+    asidero_ = raton;
+    llevada_ = false;
+}
+
+void GestosDeVista::Lleva(PuntoXY raton) {
+    const double dx = double{asidero_->X} - raton.X;
+    const double dy = double{asidero_->Y} - raton.Y;
+    if (dx == 0 && dy == 0) return;
+    if (!std::exchange(llevada_, true)) {
+        Cursor_Raton(panel_, CURSOR_ARRASTRE, trabajo_.iTipoHerramienta, trabajo_.iEstado);
+    }
+    const Superficie::Escala e = panel_.escala();
+    MueveVista(dx, dy);
+    VistaMovida({(raton.X - e.Left) / e.Width, (raton.Y - e.Top) / e.Height});
+}
+
+bool GestosDeVista::SueltaVista() {
+    const bool asida = std::exchange(asidero_, std::nullopt).has_value();
+    const bool llevada = std::exchange(llevada_, false);
+    if (llevada && trabajo_.iEstado == E_PREPARADO) {
+        Cursor_Raton(panel_, CURSOR_NORMAL, trabajo_.iTipoHerramienta, trabajo_.iEstado);
+    }
+    return asida && !llevada;
 }
 
 }  // namespace zel

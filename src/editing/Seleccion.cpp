@@ -28,14 +28,18 @@ void Seleccion::Deselecciona() {
     trabajo_.elemSeleccionado.reset();
 }
 
+void Seleccion::DejaSinSeleccion() {
+    Deselecciona();
+    trabajo_.bElementoYaSeleccionado = false;
+    trabajo_.sTextoSeleccion.clear();
+}
+
 void Seleccion::Pulsa(float X, float Y) {
     prensa_ = {X, Y};
     trabajo_.bPrensaArrastra = true;
     const auto hallado = localizador_.BuscaElemento(X, Y);
     if (!hallado) {
-        Deselecciona();
-        trabajo_.bElementoYaSeleccionado = false;
-        trabajo_.sTextoSeleccion.clear();
+        DejaSinSeleccion();
         return;
     }
     trabajo_.bBotonPulsadoSobreElemento = true;

@@ -13,6 +13,9 @@ class Seleccion {
               MaquinaEstados& estados, GestosDeSubsistema& subsistema, Anfitrion& anfitrion);
 
     void Pulsa(float X, float Y);
+    bool HayElementoEn(float X, float Y) { return localizador_.BuscaElemento(X, Y) != nullptr; }
+    // What a press beside it all does to the selection.
+    void DejaSinSeleccion();
     // With the button held: begins the drag that the press allows. A press begins one at most, so that a drag
     // that was given up does not begin again.
     void EmpiezaArrastre(float X, float Y);

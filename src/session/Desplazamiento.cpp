@@ -82,8 +82,23 @@ void Desplazamiento::PonBarras(bool limitado) {
         const bool cambia = eje->barra.Actual().Value != estado.Value;
         eje->barra.Pon(estado);
         eje->barra.Enabled(true);
-        if (cambia) Change(*eje);
+        if (!cambia) continue;
+        if (vistaLibre_)
+            eje->bEnBordeScroll = EnBorde(estado);
+        else
+            Change(*eje);
     }
+}
+
+bool Desplazamiento::EnBorde(const BarraDesplazamiento::Estado& estado) noexcept {
+    return estado.Value == estado.Min || estado.Value == estado.Max;
+}
+
+// The next paint finds the bars where it would put them, and a view beyond them told already.
+void Desplazamiento::SigueALaVista() {
+    if (vista_.RegionFueraDelMundo()) return;
+    const Guardia libre(vistaLibre_, true);
+    ActualizaVista(2);
 }
 
 std::optional<std::string> Desplazamiento::ActualizaVista(std::int16_t modo) {
@@ -123,8 +138,7 @@ void Desplazamiento::Mueve(const Eje& eje) {
 void Desplazamiento::Change(Eje& eje) {
     if (bActualizandoScroll_) refresco_.AnularRefresco();
     Mueve(eje);
-    const auto estado = eje.barra.Actual();
-    const bool enBorde = estado.Value == estado.Min || estado.Value == estado.Max;
+    const bool enBorde = EnBorde(eje.barra.Actual());
     if (enBorde && !eje.bEnBordeScroll && !bActualizandoScroll_) {
         anfitrion_.TextoEstado(1, std::string(TextoMensajeODesconocido(FIN_DE_LA_BARRA)));
     }

@@ -23,6 +23,10 @@ class Desplazamiento {
     // meanwhile; the view stays as it is. Inside itself it does nothing.
     std::optional<std::string> ActualizaVista(std::int16_t modo);
 
+    // The same after a move of the view that is not the bars': it stays between two of their positions, and
+    // nothing is told.
+    void SigueALaVista();
+
     // A bar has a new position; its thumb is being dragged.
     void HScroll_Change();
     void HScroll_Scroll();
@@ -51,6 +55,7 @@ class Desplazamiento {
         bool bEnBordeScroll = false;
     };
 
+    static bool EnBorde(const BarraDesplazamiento::Estado& estado) noexcept;
     void PonBarras(bool limitado);
     bool MedioPaso(const Eje& eje, bool haciaMax);
     void Mueve(const Eje& eje);
@@ -67,6 +72,7 @@ class Desplazamiento {
     bool enCurso_ = false;
     bool bActualizandoScroll_ = false;
     bool noCabe_ = false;
+    bool vistaLibre_ = false;  // the bars follow the view, and not it them
 };
 
 }  // namespace zel

@@ -33,6 +33,11 @@ bool Pintado::TieneContornos(std::int32_t iEstado) noexcept {
            (iEstado >= E_ARRASTRAR_ETIQUETA && iEstado <= E_MANO);
 }
 
+bool Pintado::HayArrastre(const Trabajo& trabajo) noexcept {
+    const bool esperaPrensa = trabajo.iEstado == E_RECUADRO_ZOOM || trabajo.iEstado == E_MANO;
+    return TieneContornos(trabajo.iEstado) && (trabajo.trazadoTemporal || !esperaPrensa);
+}
+
 const Elementos& Pintado::ConjuntoPintado() const noexcept {
     const bool parte = trabajo_.iEstado == E_SUBSISTEMA && trabajo_.elemSubsistema;
     return parte ? *trabajo_.elemSubsistema : *documento_.colElementos;

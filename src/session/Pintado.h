@@ -31,6 +31,8 @@ class Pintado {
     void UserControl_Paint();
     // The state is a drag with its outline.
     static bool TieneContornos(std::int32_t iEstado) noexcept;
+    // There is one in hand: the zoom rectangle and the hand have theirs from the press on.
+    static bool HayArrastre(const Trabajo& trabajo) noexcept;
     // While it is set, boxes wait for DiPendientes: a platform in the middle of a resize, a show or a change
     // of focus stands no box.
     // Returns what it was.

@@ -1,5 +1,6 @@
 #include "session/Vista.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "model/TamanyoUnidad.h"
@@ -15,8 +16,13 @@ constexpr float AREA_MUNDO = 5004000.0F * 2505000.0F;
 
 constexpr std::int16_t MAXIMO_ZOOM = 111;
 constexpr std::int16_t MINIMO_ZOOM = 112;
+constexpr double AREA_MAS_LEJANA = 1.45 * AREA_MUNDO;
 constexpr double VISTA_MAS_CERCANA = 10;  // units of TamanyoUnidad across the view
 constexpr double TOLERANCIA = 1e-5;
+
+float AnchoMasCercano() noexcept {
+    return static_cast<float>((VISTA_MAS_CERCANA + 0.01) * TamanyoUnidad());
+}
 
 float Area(const Marco& marco) noexcept {
     return (marco.Xmax - marco.Xmin) * (marco.Ymax - marco.Ymin);
@@ -142,7 +148,7 @@ bool Vista::AjustarZoomUsuario(Superficie& picture, float z, bool bMantenerCentr
     };
     float s = anchoVisible();
     if (VISTA_MAS_CERCANA * TamanyoUnidad() > s) {
-        s = static_cast<float>((VISTA_MAS_CERCANA + 0.01) * TamanyoUnidad());
+        s = AnchoMasCercano();
         z = static_cast<float>(double{s} * s / relacionAspecto_ / areaActiva_);
         if (zoom_ <= z * (1 + TOLERANCIA)) {
             avisos_.LanzaMensaje(MAXIMO_ZOOM, 0, iRefrescar);
@@ -150,7 +156,7 @@ bool Vista::AjustarZoomUsuario(Superficie& picture, float z, bool bMantenerCentr
             return false;
         }
     }
-    if (double{z} * areaActiva_ > 1.45 * AREA_MUNDO) {
+    if (double{z} * areaActiva_ > AREA_MAS_LEJANA) {
         avisos_.LanzaMensaje(MINIMO_ZOOM, 0, iRefrescar);
         refresco_.RefrescarSiPendiente();
         return false;
@@ -170,14 +176,34 @@ bool Vista::AjustarZoomUsuario(Superficie& picture, float z, bool bMantenerCentr
             centro = CentroDentro();
         }
     }
-    picture.ScaleWidth(s);
-    picture.ScaleHeight(-std::abs(s / relacionAspecto_));
-    zoom_ = z;
-    EscribeZoom(false);
+    PonZoom(picture, s, z);
     MueveScroll(centro.X, centro.Y, modo);
     return true;
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrAjustarZoomUsuario (Esquema)");
+}
+
+void Vista::PonZoom(Superficie& picture, float ancho, float z) {
+    picture.ScaleWidth(ancho);
+    picture.ScaleHeight(-std::abs(ancho / relacionAspecto_));
+    zoom_ = z;
+    EscribeZoom(false);
+}
+
+// A view beyond the limits, which a click or the host may have chosen, can go back towards them.
+bool Vista::AmpliaEn(double veces, PuntoXY en) {
+    const Superficie::Escala e = panel_.escala();
+    const double actual = std::sqrt(std::abs(double{e.Width} * e.Height) * relacionAspecto_);
+    const double cercano = std::min<double>(AnchoMasCercano(), actual);
+    const double lejano = std::max(std::sqrt(AREA_MAS_LEJANA * relacionAspecto_), actual);
+    const double ancho = std::clamp(actual / veces, cercano, lejano);
+    if (!(ancho > 0) || std::abs(ancho / actual - 1) < TOLERANCIA) return false;
+    PonZoom(panel_, static_cast<float>(ancho),
+            static_cast<float>(ancho * ancho / relacionAspecto_ / areaActiva_));
+    const double x = double{e.Left} + double{en.X} * e.Width + (0.5 - en.X) * panel_.ScaleWidth();
+    const double y = double{e.Top} + double{en.Y} * e.Height + (0.5 - en.Y) * panel_.ScaleHeight();
+    MueveScroll(static_cast<float>(x), static_cast<float>(y), 2);
+    return true;
 }
 
 void Vista::AjustarImagen(Superficie& picture, std::int16_t modo) try {

@@ -46,6 +46,11 @@ class Vista {
     bool AjustarZoomUsuario(Superficie& picture, float z, bool bMantenerCentro, bool bPermitirMayor,
                             std::int16_t modo);
 
+    // Shows everything that many times larger, in length, with a point of the panel where it is (in shares of
+    // the panel's width and height from its top left corner). It goes as far as the closest and the farthest
+    // view; false when it is there already.
+    bool AmpliaEn(double veces, PuntoXY en);
+
     // Fits all the elements into the view. When that would be closer than the closest view, they are
     // centred.
     void AjustarImagen(Superficie& picture, std::int16_t modo);
@@ -79,6 +84,7 @@ class Vista {
     void PrimeraDisposicion();
     void PonAreaActiva(float area) noexcept;
     void EscribeZoom(bool limitado);
+    void PonZoom(Superficie& picture, float ancho, float z);
     PuntoXY CentroDentro() const noexcept;
 
     Superficie& panel_;

@@ -92,7 +92,6 @@ TEST_F(EsquemaEnUso, EachAxisKeepsItsUnitsInAResizeAndWildValuesAreRefused) {
         EXPECT_THROW(esquema.ScaleWidth(malo), Error) << malo;
         EXPECT_THROW(esquema.ScaleHeight(malo), Error) << malo;
     }
-    EXPECT_THROW(esquema.DesplazaVista(NAN, 0), Error);
     EXPECT_THROW(esquema.AjustarAVentana(NAN), Error);
     EXPECT_EQ(Dibujo().escala(), antes);
 }

@@ -73,8 +73,8 @@ class MesaDeEdicion : public Mesa {
 
     Conexiones conexiones;
     MaquinaEstados estados{panel, documento, trabajo, refresco, vista, conexiones, anfitrion};
-    GestosDeVista gestos{
-        panel, trabajo, refresco, vista, avisos, estados, [this] { vista.Dispone(200, 100); }};
+    GestosDeVista gestos{panel,          trabajo, refresco, vista,
+                         desplazamiento, avisos,  estados,  [this] { vista.Dispone(200, 100); }};
     Herramientas herramientas{panel, trabajo, refresco, vista, avisos, estados, gestos, anfitrion};
     Localizador localizador{panel, documento, trabajo, vista,
                             [this](std::int32_t codigo) { pintado.SubrayaElem(codigo); }};
