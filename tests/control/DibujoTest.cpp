@@ -80,6 +80,63 @@ TEST_F(Dibujo_, ABasinOfAllKindsIsDrawnMovedSavedAndFoundAgain) {
     EXPECT_FALSE(esquema.bHabidoCambios());
 }
 
+TEST_F(Dibujo_, ATraceIsTakenBackPointByPointAndGivenUp) {
+    auto todos = std::make_shared<Elementos>();
+    todos->Add(ctNudo, "Norte", 1, 1, 20, 100, 0, 0, nullptr, nullptr, "x", 6, 6);
+    todos->Add(ctNudo, "Sur", 2, 2, 100, 100, 0, 0, nullptr, nullptr, "x", 6, 6);
+    Pon(todos);
+    const QImage antes = RecienPintada();
+    const std::string escoge = "Escoja el nudo o embalse inicial para la conducción",
+                      traza = "Agregue puntos";
+    Herramienta("conduccion1");
+    for (const bool tecla : {false, true}) {
+        Clic({20, 100});
+        for (const PuntoXY p : {PuntoXY{40, 80}, {60, 80}, {80, 80}})
+            Clic(p);
+        for (const char* prompt : {traza.c_str(), traza.c_str(), traza.c_str(), escoge.c_str()}) {
+            EXPECT_EQ(Prompt().substr(0, 14), traza);
+            if (tecla)
+                QTest::keyClick(Panel(), Qt::Key_Backspace);
+            else
+                Clic({60, 40}, Qt::RightButton);
+            EXPECT_EQ(Prompt().rfind(prompt, 0), 0) << Prompt();
+        }
+    }
+    Herramienta("centralHE");
+    Clic({20, 100});
+    Clic({60, 60}, Qt::RightButton);
+    dialogos.Espera("Ya ha definido el icono del elemento lineal");
+    Clic({60, 30}, Qt::RightButton);
+    Mueve({90, 30});
+    QTest::keyClick(Panel(), Qt::Key_Escape);
+    EXPECT_EQ(Prompt().rfind("Escoja el nudo o embalse inicial", 0), 0) << Prompt();
+    QTest::keyClick(Panel(), Qt::Key_Escape);
+    EXPECT_EQ(todos->Count(), 2);
+    esquema.Seleccionar(2);
+    QTest::keyClick(Panel(), Qt::Key_Escape);
+    EXPECT_EQ(Imagen(), antes);
+}
+
+TEST_F(Dibujo_, TheViewToolsEndWithTheRightButtonAndAClickZoomKeepsToItsLimits) {
+    for (const char* clave : {"zoommas", "zoomRecuadro", "mano"}) {
+        Herramienta(clave);
+        EXPECT_NE(Prompt(), "Preparado");
+        Clic({60, 60}, Qt::RightButton);
+        EXPECT_EQ(Prompt(), "Preparado") << clave;
+    }
+    const std::tuple<const char*, float, const char*> filas[] = {
+        {"zoommas", 39, "Se ha alcanzado el máximo zoom"},
+        {"zoommenos", 16001, "Se ha alcanzado el mínimo zoom"}};
+    for (const auto& [clave, ancho, aviso] : filas) {
+        esquema.Scale_(Variante(0), Variante(ancho), Variante(ancho), Variante(0));
+        Herramienta(clave);
+        dialogos.Espera(aviso);
+        QTest::mouseClick(Panel(), Qt::LeftButton, {}, {1, 1});
+        EXPECT_EQ(esquema.ScaleWidth(), ancho);
+        EXPECT_LT(esquema.ScaleLeft(), -0.4F * ancho) << "a refused one still centres";
+    }
+}
+
 // Nodes 1 to 4 at the corners of a square, a conduit 5 above, 6 at its left.
 class Subsistemas : public Dibujo_ {
   protected:
