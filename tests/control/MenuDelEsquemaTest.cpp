@@ -87,6 +87,25 @@ TEST_F(MenuDelEsquema, EachItemDoesItsCommandAndTellsTheHost) {
     EXPECT_EQ(e->Tamanyo() + e->EtiquetaTamanyo(), 2 + 15);
 }
 
+TEST_F(MenuDelEsquema, AWrongAnswerIsToldAndAskedForAgain) {
+    const std::tuple<const char*, const char*, const char*> filas[] = {
+        {"menuContextualTamanyo", "doce", "Introduzca una expresión numérica"},
+        {"menuContextualTamanyo", "49", "Valor numérico incorrecto"},
+        {"menuContextualTamanyo", "3301", "Valor numérico incorrecto"},
+        {"menuContextualTamanyoEtiqueta", "49,9", "El tamaño mínimo permitido para un elemento es del 50%"},
+        {"menuContextualTamanyoEtiqueta", "x", "Valor numérico incorrecto"}};
+    esquema.bHabidoCambios(false);
+    for (const auto& [item, respuesta, aviso] : filas) {
+        esquema.Seleccionar(1);
+        dialogos.Responde(respuesta);
+        dialogos.Espera(aviso);
+        dialogos.Responde(std::nullopt);
+        Elige(item);
+        EXPECT_EQ(dialogos.Propuesta(), "100");
+    }
+    EXPECT_FALSE(esquema.bHabidoCambios());
+}
+
 TEST_F(MenuDelEsquema, MarksFollowWhatTheCommandsDo) {
     const auto marcado = [&](const char* item) { return Parte<QAction>(item)->isChecked(); };
     esquema.Seleccionar(1);
