@@ -41,6 +41,7 @@ GestosDeVista::GestosDeVista(Superficie& panel, Trabajo& trabajo, Refresco& refr
       dispone_(std::move(dispone)) {}
 
 void GestosDeVista::EmpiezaBanda(float x, float y) {
+    if (trabajo_.trazadoTemporal) DibujaBanda();  // another button is down: its band goes
     if (trabajo_.iEstado == E_MANO)
         trabajo_.trazadoTemporal = Cadena({{x, y}, {panel_.ScaleLeft() - x, panel_.ScaleTop() - y}, {x, y}});
     else

@@ -100,6 +100,7 @@ void PuntosDeConduccion::Escoge(float X, float Y) {
     trabajo_.puntoReferencia = std::make_shared<Punto>(*trazado->Item(punto_));
     trazado->Valor(static_cast<float>(punto_ - 1));
     estados_.Estado(E_ARRASTRAR_PUNTO, 1);
+    pintado_.AlternaContorno();
 }
 
 // Whether the trace is still the one whose point was picked.

@@ -78,6 +78,8 @@ void Seleccion::EmpiezaArrastre(float X, float Y) {
         trabajo_.puntoReferencia = std::make_shared<Punto>(prensa_.X, prensa_.Y);
         estados_.Estado(E_ARRASTRAR_ETIQUETA, 1);
     }
+    // Drawn where it is, for the first movement to erase.
+    if (Pintado::TieneContornos(trabajo_.iEstado)) pintado_.AlternaContorno();
 }
 
 bool Seleccion::SePuedeArrastrar(const std::shared_ptr<Elemento>& elem) const noexcept {
