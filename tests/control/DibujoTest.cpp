@@ -117,6 +117,24 @@ TEST_F(Dibujo_, ATraceIsTakenBackPointByPointAndGivenUp) {
     EXPECT_EQ(Imagen(), antes);
 }
 
+TEST_F(Dibujo_, ANewElementHasRoomBeforeTheEndOfTheWorld) {
+    const auto clic = [this] {
+        esquema.Scale_(Variante(-4010), Variante(-4990), Variante(-3990), Variante(-5005));
+        QTest::mouseClick(Panel(), Qt::LeftButton, {}, {2, Panel()->height() - 2});
+    };
+    Herramienta("nudo");
+    clic();
+    ASSERT_EQ(Sucesos(), "MouseDown; Seleccionado 1; Creado 0 0-0; Click");
+    EXPECT_EQ(Donde(1), "-3995,-4995");
+    Herramienta("flecha");
+    alPulsar = [](qint16&, qint16&, float& x, float& y) {
+        EXPECT_EQ(x, -3999);
+        EXPECT_EQ(y, -4999);
+    };
+    clic();
+    EXPECT_EQ(Sucesos().rfind("MouseDown", 0), 0);
+}
+
 TEST_F(Dibujo_, TheViewToolsEndWithTheRightButtonAndAClickZoomKeepsToItsLimits) {
     for (const char* clave : {"zoommas", "zoomRecuadro", "mano"}) {
         Herramienta(clave);

@@ -76,6 +76,9 @@ TEST_F(ImagenFondo, AChosenPictureIsPlacedUnderTheElements) {
     EXPECT_TRUE(Parte("ToolBar1")->isEnabled());
     EXPECT_EQ(Estado(1), "Preparado");
     EXPECT_TRUE(HayRojo(178, 78));
+    // The second press of a double click on "Aceptar" edits nothing.
+    QObject::connect(&esquema, &Esquema::DblClick, [] { ADD_FAILURE() << "the host is told"; });
+    QTest::mouseDClick(Panel(), Qt::LeftButton, {}, {5, 5});
 }
 
 TEST_F(ImagenFondo, WithoutAPictureNothingChanges) {
