@@ -1,14 +1,11 @@
 #include "session/Localizador.h"
 
-#include <gtest/gtest.h>
-
-#include "support/AnfitrionAnotador.h"
-#include "support/Relato.h"
+#include "support/Mesa.h"
 
 namespace zel::pruebas {
 namespace {
 
-class Localizadores : public ::testing::Test {
+class Localizadores : public Mesa {
   protected:
     Localizadores() {
         Numera(*documento.colElementos,
@@ -30,13 +27,6 @@ class Localizadores : public ::testing::Test {
                std::to_string(trabajo.iSegmentoEncontrado) + " u" + std::to_string(subrayado);
     }
 
-    SuperficieGrabadora panel;
-    Documento documento;
-    Trabajo trabajo;
-    Refresco refresco{panel};
-    Avisos avisos{trabajo, refresco};
-    AnfitrionAnotador anfitrion;
-    Vista vista{panel, documento, trabajo, refresco, avisos, anfitrion};
     std::int32_t subrayado = -1;
     Localizador localizador{panel, documento, trabajo, vista, [this](std::int32_t c) { subrayado = c; }};
 };

@@ -1,11 +1,7 @@
 #include "session/Vista.h"
 
-#include <gtest/gtest.h>
-
 #include "model/TamanyoUnidad.h"
-#include "support/AnfitrionAnotador.h"
-#include "support/DialogosGuion.h"
-#include "support/Relato.h"
+#include "support/Mesa.h"
 
 namespace zel::pruebas {
 
@@ -15,18 +11,10 @@ static std::string Texto(const Marco& m) {
     return Cifra(m.Xmin) + ".." + Cifra(m.Xmax) + " x " + Cifra(m.Ymin) + ".." + Cifra(m.Ymax);
 }
 
-// A view on a panel of 200 x 100 mm that has been laid out and painted.
-class Vistas : public ::testing::Test {
+// Without the scroll bars, which a paint brings into line with the view.
+class Vistas : public Mesa {
   protected:
-    Vistas() {
-        vista.Dispone(200, 100);
-        refresco.RefrescarSiPendiente();
-        panel.refrescos = 0;
-    }
-    void Pon(std::vector<Elemento> elementos) {
-        documento.colElementos = std::make_shared<Elementos>();
-        Numera(*documento.colElementos, std::move(elementos));
-    }
+    Vistas() { panel.pinta = {}; }
     // Two nodes; region 4..416 x 14..126, shown whole 412 wide and 206 high around (210, 70).
     void PonDosNudos() {
         Pon({Simbolo(ctNudo, {10, 20}), Simbolo(ctNudo, {410, 120})});
@@ -38,15 +26,6 @@ class Vistas : public ::testing::Test {
         return Cifra(panel.ScaleLeft() + panel.ScaleWidth() / 2) + "," +
                Cifra(panel.ScaleTop() + panel.ScaleHeight() / 2);
     }
-
-    SuperficieGrabadora panel;
-    Documento documento;
-    Trabajo trabajo;
-    Refresco refresco{panel};
-    Avisos avisos{trabajo, refresco};
-    AnfitrionAnotador anfitrion;
-    Vista vista{panel, documento, trabajo, refresco, avisos, anfitrion};
-    DialogosGuion guion;
 };
 
 TEST_F(Vistas, TheFirstLayoutShowsTheWorldFromZeroAndLaterOnesKeepTheCornerAndTheScale) {
