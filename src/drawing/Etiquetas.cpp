@@ -7,6 +7,7 @@
 #include "drawing/Fuente.h"
 #include "drawing/Marco.h"
 #include "drawing/PartesDelDibujo.h"
+#include "model/TamanyoUnidad.h"
 
 namespace zel {
 
@@ -52,6 +53,11 @@ void DibujaEtiqueta(Superficie& panel, const AjustesDibujo& ajustes, const Eleme
 }
 
 }  // namespace
+
+PuntoXY EtiquetaDelSimbolo() noexcept {
+    const float r = TamanyoUnidad();
+    return {static_cast<float>(1.3 * double{r}), r};
+}
 
 float FactorEtiqueta(const Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e) noexcept {
     const float factor = ajustes.FactorFuente(panel) * e.EtiquetaTamanyo();

@@ -12,6 +12,9 @@ struct CajaEtiqueta {
     float Ancho, Alto;
 };
 
+// Where the label of an element with a symbol begins unless it is put elsewhere, from the element's position.
+PuntoXY EtiquetaDelSimbolo() noexcept;
+
 // The label's text size before rounding, in points: the plain one times EtiquetaTamanyo and, when the label
 // is relative, the element's size.
 float FactorEtiqueta(const Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e) noexcept;

@@ -3,12 +3,11 @@
 #include <algorithm>
 
 #include "drawing/Colores.h"
-#include "drawing/Fuente.h"
-#include "drawing/Geometria.h"
+#include "drawing/Etiquetas.h"
 #include "editing/Menus.h"
 #include "editing/OrdenDeMenu.h"
+#include "editing/Trazados.h"
 #include "model/Mensajes.h"
-#include "model/TamanyoUnidad.h"
 #include "platform/Dialogos.h"
 #include "platform/Numeros.h"
 #include "session/Ajustes.h"
@@ -215,18 +214,13 @@ void Apariencia::menuContextualEtiquetaPegajosa_Click() {
 void Apariencia::DespegaDelUsuario(Elemento& e) {
     if (TieneSimbolo(e.Tipo())) {
         e.EtiquetaMovida(false);
-        e.EtiquetaPosX(1.3F * TamanyoUnidad());
-        e.EtiquetaPosY(TamanyoUnidad());
+        const PuntoXY etiqueta = EtiquetaDelSimbolo();
+        e.EtiquetaPosX(etiqueta.X);
+        e.EtiquetaPosY(etiqueta.Y);
         return;
     }
-    if (!e.Trazado()) throw Fallo(91);
-    PonFuente(panel_, AjustesDe(trabajo_, documento_, vista_).FactorFuente(panel_), trabajo_.iEstado);
-    const auto mitad = BuscaMitadConduccion(panel_, *e.Trazado(), trabajo_.iEstado);
+    PonEnLaMitad(panel_, AjustesDe(trabajo_, documento_, vista_), e);
     e.EtiquetaMovida(false);
-    e.XPos(mitad->Item(1)->XPos());
-    e.YPos(mitad->Item(1)->YPos());
-    e.EtiquetaPosX(mitad->Item(2)->XPos());
-    e.EtiquetaPosY(mitad->Item(2)->YPos());
 }
 
 void Apariencia::menuContextualEtiquetaTamanyoRelativo_Click() {

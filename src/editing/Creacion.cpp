@@ -6,11 +6,9 @@
 
 #include "drawing/Conducciones.h"
 #include "drawing/Etiquetas.h"
-#include "drawing/Fuente.h"
-#include "drawing/Geometria.h"
 #include "drawing/Simbolos.h"
 #include "editing/Nombres.h"
-#include "model/TamanyoUnidad.h"
+#include "editing/Trazados.h"
 #include "session/Ajustes.h"
 
 namespace zel {
@@ -21,11 +19,6 @@ constexpr std::int16_t BOTON_DERECHO = 2;
 constexpr AvisoDeConexion SUPERPUESTOS{AVISO_SUPERPUESTOS};
 constexpr float TOLERANCIA = 0.5F;  // of a trace, in TamanyoUnidad
 constexpr float TAMANYO_DEL_SIMBOLO = 1;
-
-PuntoXY EtiquetaDelSimbolo() noexcept {
-    const float r = TamanyoUnidad();
-    return {static_cast<float>(1.3 * double{r}), r};
-}
 
 void AgregaPunto(Puntos& trazado, PuntoXY p) {
     trazado.Add(p.X, p.Y);
@@ -172,9 +165,7 @@ void Creacion::TerminaEn(const Elemento& fin) {
               trazado});
         return;
     }
-    // The label is measured as it will be drawn: a mark may have left another font.
-    PonFuente(panel_, AjustesDe(trabajo_, documento_, vista_).FactorFuente(panel_), trabajo_.iEstado);
-    const auto mitad = BuscaMitadConduccion(panel_, *trazado, trabajo_.iEstado);
+    const auto mitad = MitadDeTrazado(panel_, AjustesDe(trabajo_, documento_, vista_), *trazado);
     Crea({Vertice(*mitad, 1), Vertice(*mitad, 2), inicio, fin.gfCodSIG(), trazado, nullptr});
 }
 

@@ -31,15 +31,25 @@ const std::shared_ptr<Puntos>& TrazadoDe(const Elemento& lineal, bool segundoTra
     return segundoTrazado ? lineal.Trazado2() : lineal.Trazado();
 }
 
-void SigueLaMitad(Superficie& panel, const AjustesDibujo& ajustes, Elemento& e) {
-    if (!EsLineal(e.Tipo()) || TieneSimbolo(e.Tipo()) || e.EtiquetaMovida()) return;
-    if (!e.Trazado() || e.Trazado()->Count() < 2 || !TieneLongitud(*e.Trazado())) return;
+std::shared_ptr<Puntos> MitadDeTrazado(Superficie& panel, const AjustesDibujo& ajustes,
+                                       const Puntos& trazado) {
     PonFuente(panel, ajustes.FactorFuente(panel), ajustes.iEstado);
-    const auto mitad = BuscaMitadConduccion(panel, *e.Trazado(), ajustes.iEstado);
+    return BuscaMitadConduccion(panel, trazado, ajustes.iEstado);
+}
+
+void PonEnLaMitad(Superficie& panel, const AjustesDibujo& ajustes, Elemento& e) {
+    if (!e.Trazado()) throw Fallo(91);
+    const auto mitad = MitadDeTrazado(panel, ajustes, *e.Trazado());
     e.XPos(mitad->Item(1)->XPos());
     e.YPos(mitad->Item(1)->YPos());
     e.EtiquetaPosX(mitad->Item(2)->XPos());
     e.EtiquetaPosY(mitad->Item(2)->YPos());
+}
+
+void SigueLaMitad(Superficie& panel, const AjustesDibujo& ajustes, Elemento& e) {
+    if (!EsLineal(e.Tipo()) || TieneSimbolo(e.Tipo()) || e.EtiquetaMovida()) return;
+    if (!e.Trazado() || e.Trazado()->Count() < 2 || !TieneLongitud(*e.Trazado())) return;
+    PonEnLaMitad(panel, ajustes, e);
 }
 
 }  // namespace zel

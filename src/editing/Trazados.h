@@ -18,8 +18,14 @@ ExtremosDeTrazado ExtremosDe(const Elementos& elementos, const std::shared_ptr<E
 
 const std::shared_ptr<Puntos>& TrazadoDe(const Elemento& lineal, bool segundoTrazado) noexcept;
 
-// Puts the position and the label of a conduit, recharge, pumping or intake at the middle of its trace,
-// unless the user has placed the label. Other kinds stay, and so does what has a trace without length.
+// See BuscaMitadConduccion; with the label measured as it will be drawn, whatever font a mark has left.
+std::shared_ptr<Puntos> MitadDeTrazado(Superficie& panel, const AjustesDibujo& ajustes,
+                                       const Puntos& trazado);
+// Puts the position and the label of a conduit, recharge, pumping or intake there. Raises before it changes
+// anything.
+void PonEnLaMitad(Superficie& panel, const AjustesDibujo& ajustes, Elemento& e);
+// The same unless the user has placed the label. Other kinds stay, and so does what has a trace without
+// length.
 void SigueLaMitad(Superficie& panel, const AjustesDibujo& ajustes, Elemento& e);
 
 }  // namespace zel
