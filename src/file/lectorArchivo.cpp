@@ -1,5 +1,6 @@
 #include "file/lectorArchivo.h"
 
+#include <exception>
 #include <string_view>
 
 #include "file/Conversion.h"
@@ -9,16 +10,12 @@
 
 namespace zel {
 
-// What lives only while one file is being read.
+// What lives only while one file is being read. Nothing goes to the collection before the whole file has been
+// found well-formed.
 struct lectorArchivo::Lectura {
-    explicit Lectura(const DocumentoXml& documento)
-        : delElemento(documento), deLinea(documento), dePunto(documento) {}
-
-    Hallazgos delElemento;
-    Hallazgos deLinea;
-    Hallazgos dePunto;
-    std::int16_t posicion = 0;
-    std::string memoria;
+    std::vector<std::unique_ptr<Elemento>> elementos;
+    std::exception_ptr
+        fallo;  // of the first element that cannot be loaded; those behind it are not looked at
     // Codes of the elements whose first and second traces have to be rebuilt.
     std::vector<std::int32_t> sinTrazado;
     std::vector<std::int32_t> sinTrazado2;
@@ -82,32 +79,43 @@ void lectorArchivo::Carga() try {
     textoAvisos_.clear();
     motivo_.clear();
     registro_.clear();
+    sinCargar_.clear();
     esEsquema_ = false;
     secciones_.reset();
     if (!coleccion_) throw Fallo(91);
-    DocumentoXml documento;
     // From before it is read: a file that changes meanwhile is not taken for the one that was.
     auto secciones = HuellaDe(nombreArchivo_);
-    if (!documento.Carga(nombreArchivo_)) {
+    Lectura lectura;
+    const auto sigue = [&](auto accion) {
+        if (lectura.fallo) return;
+        try {
+            accion();
+        } catch (...) {
+            lectura.fallo = std::current_exception();
+        }
+    };
+    LecturaDeEsquema documento;
+    const bool entero = documento.Lee(
+        nombreArchivo_,
+        [&](std::int32_t posicion) {
+            sigue([&] { Estrecha16(posicion); });
+            if (cedeTurno_ && !lectura.fallo) cedeTurno_();
+        },
+        [&](std::int32_t posicion, const ElementoLeido& leido) {
+            sigue([&] { LeeElemento(lectura, Estrecha16(posicion), leido); });
+        });
+    if (!entero) {
         motivo_ = documento.Motivo();
         return;
     }
     if (secciones) {
-        LeeSecciones(documento, secciones->imagen, secciones->configuracion);
+        secciones->imagen = documento.Imagen();
+        secciones->configuracion = documento.Configuracion();
         secciones_ = std::move(secciones);
     }
-    Lectura lectura(documento);
-    xmlNode* const raiz = documento.Raiz();
-    esEsquema_ = raiz->name == documento.Nombre("Esquema");
-    bool hayElementos = false;
-    for (auto* nodo = raiz; nodo; nodo = SiguienteElemento(nodo, raiz)) {
-        if (!lectura.delElemento.Es(nodo, Hijo::Elemento)) continue;
-        hayElementos = true;
-        lectura.posicion = Estrecha16(lectura.posicion + 1);
-        if (cedeTurno_) cedeTurno_();
-        LeeElemento(lectura, nodo);
-    }
-    if (!hayElementos) return;
+    esEsquema_ = documento.EsEsquema();
+    if (documento.Elementos() == 0) return;
+    Agrega(lectura);
     RehaceTrazados(lectura.sinTrazado);
     RehaceTrazados2(lectura.sinTrazado2);
     registro_ = TextoDelRegistro();
@@ -116,111 +124,124 @@ void lectorArchivo::Carga() try {
     LanzaError(TEXTO_LIBRE, "Lector:Carga ");
 }
 
-std::string lectorArchivo::MotivoParaNoAbrir() const {
-    DocumentoXml documento;
-    if (!documento.Carga(nombreArchivo_)) return documento.Motivo();
-    const bool esEsquema = documento.Raiz()->name == documento.Nombre("Esquema");
-    return esEsquema || documento.Nombre("Elemento") ? std::string() : "no es un esquema";
+// Up to the first that fails.
+void lectorArchivo::Agrega(const Lectura& lectura) {
+    for (const auto& e : lectura.elementos) {
+        const auto otro = coleccion_->ItemCodSIG(e->gfCodSIG());
+        if (otro && admiteRepetidos_) {
+            coleccion_->AddObjetoElemento(*e, Variante(""));
+            continue;
+        }
+        if (otro) {
+            sinCargar_ = "\"" + otro->Nombre() + "\" y \"" + e->Nombre() + "\" tienen el mismo código, " +
+                         std::to_string(e->gfCodSIG());
+        }
+        coleccion_->AddObjetoElemento(*e);
+    }
+    if (lectura.fallo) std::rethrow_exception(lectura.fallo);
 }
 
-const Hallazgos::Lista* lectorArchivo::AsignaPropiedad(const Hallazgos& hallazgos, Hijo hijo,
-                                                       std::int16_t esperados, std::int16_t posicion,
-                                                       bool bSinAviso) try {
-    const Hallazgos::Lista& lista = hallazgos.De(hijo);
-    if (lista.Cuantos == esperados) return &lista;
+std::string lectorArchivo::MotivoParaNoAbrir() const {
+    LecturaDeEsquema documento;
+    if (!documento.Lee(nombreArchivo_)) return documento.Motivo();
+    return documento.EsEsquema() || documento.Elementos() > 0 ? std::string() : "no es un esquema";
+}
+
+// Whether there is what is looked for, as many times as expected or more; what is not so is noted.
+bool lectorArchivo::AsignaPropiedad(std::int32_t cuantos, Hijo hijo, std::int16_t esperados,
+                                    std::int16_t posicion, bool bSinAviso) try {
+    if (cuantos == esperados) return true;
     const auto texto = [](std::int32_t n) { return std::to_string(n); };
-    if (lista.Cuantos == 0) {
+    if (cuantos == 0) {
         textoErrores_ += SALTO + ("El elemento en la posición " + texto(posicion)) +
                          " no almacenó la propiedad " + NombreDe(hijo);
-        return nullptr;
+        return false;
     }
-    if (lista.Cuantos < esperados) {
+    if (cuantos < esperados) {
         textoErrores_ += SALTO + ("El elemento en la posición " + texto(posicion)) + " sólo almacenó " +
-                         texto(lista.Cuantos) + " etiquetas de la propiedad " + NombreDe(hijo) + ".";
-        return nullptr;
+                         texto(cuantos) + " etiquetas de la propiedad " + NombreDe(hijo) + ".";
+        return false;
     }
     if (!bSinAviso) {
         textoAvisos_ += SALTO + ("Aviso: El elemento en la posición " + texto(posicion)) + " presenta " +
-                        texto(lista.Cuantos) + " propiedades " + NombreDe(hijo) +
-                        ". Se cargaron los primeros " + texto(esperados) + " datos en el esquema.";
+                        texto(cuantos) + " propiedades " + NombreDe(hijo) + ". Se cargaron los primeros " +
+                        texto(esperados) + " datos en el esquema.";
     }
-    return &lista;
+    return true;
 } catch (...) {
     LanzaError(TEXTO_LIBRE, "Error en ErrAsignaPropiedad (lectorArchivo)");
 }
 
 template <typename Tabla>
-void lectorArchivo::LeeHijos(Lectura& lectura, Elemento& e, const Tabla& tabla) {
+void lectorArchivo::LeeHijos(const ElementoLeido& leido, std::int16_t posicion, Elemento& e,
+                             const Tabla& tabla) {
     for (const LecturaHijo& lee : tabla) {
-        const auto* lista = AsignaPropiedad(lectura.delElemento, lee.hijo, 1, lectura.posicion, false);
-        if (lista) lee.asigna(e, TextoDe(lista->Primeros[0], lectura.memoria));
+        const ElementoLeido::Texto& suyo = leido.De(lee.hijo);
+        if (AsignaPropiedad(suyo.cuantos, lee.hijo, 1, posicion, false)) lee.asigna(e, suyo.texto);
     }
 }
 
-void lectorArchivo::LeeElemento(Lectura& lectura, xmlNode* nodo) {
-    Elemento e;
-    lectura.delElemento.Recoge(nodo);
-    LeeHijos(lectura, e, HIJOS_COMUNES);
-    if (EsLineal(e.Tipo())) {
-        LeeHijos(lectura, e, HIJOS_LINEALES);
-        if (EmpiezaEnSiMismo(e.Tipo()) && e.gfCodSIG() != 0) e.ElemIni(e.gfCodSIG());
-        LeeTrazados(lectura, e);
+void lectorArchivo::LeeElemento(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido) {
+    auto e = std::make_unique<Elemento>();
+    LeeHijos(leido, posicion, *e, HIJOS_COMUNES);
+    if (EsLineal(e->Tipo())) {
+        LeeHijos(leido, posicion, *e, HIJOS_LINEALES);
+        if (EmpiezaEnSiMismo(e->Tipo()) && e->gfCodSIG() != 0) e->ElemIni(e->gfCodSIG());
+        LeeTrazados(lectura, posicion, leido, *e);
     }
-    coleccion_->AddObjetoElemento(e);
+    lectura.elementos.push_back(std::move(e));
 }
 
-void lectorArchivo::LeeTrazados(Lectura& lectura, Elemento& e) {
+void lectorArchivo::LeeTrazados(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido,
+                                Elemento& e) {
     if (e.Tipo() == ctCentralHidroelectrica) {
-        LeeTrazadosCentral(lectura, e);
+        LeeTrazadosCentral(lectura, posicion, leido, e);
         return;
     }
-    const auto* lineas = AsignaPropiedad(lectura.delElemento, Hijo::Linea, 1, lectura.posicion, false);
-    if (!lineas) {
-        textoErrores_ += SALTO + ("El elemento " + std::to_string(lectura.posicion)) +
-                         " no almacenó la propiedad de Trazado.";
+    if (!AsignaPropiedad(leido.De(Hijo::Linea).cuantos, Hijo::Linea, 1, posicion, false)) {
+        textoErrores_ +=
+            SALTO + ("El elemento " + std::to_string(posicion)) + " no almacenó la propiedad de Trazado.";
         Apunta(lectura.sinTrazado, e.gfCodSIG());
         return;
     }
-    e.Trazado(LeeTrazado(lectura, lineas->Primeros[0], "trazado"));
+    e.Trazado(LeeTrazado(*leido.lineas[0], posicion, "trazado"));
     if (!e.Trazado()) Apunta(lectura.sinTrazado, e.gfCodSIG());
 }
 
-void lectorArchivo::LeeTrazadosCentral(Lectura& lectura, Elemento& e) {
-    const auto* lineas = AsignaPropiedad(lectura.delElemento, Hijo::Linea, 2, lectura.posicion, false);
-    if (!lineas) {
-        textoErrores_ += SALTO + ("El elemento " + std::to_string(lectura.posicion)) +
+void lectorArchivo::LeeTrazadosCentral(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido,
+                                       Elemento& e) {
+    if (!AsignaPropiedad(leido.De(Hijo::Linea).cuantos, Hijo::Linea, 2, posicion, false)) {
+        textoErrores_ += SALTO + ("El elemento " + std::to_string(posicion)) +
                          " (central hidroeléctrica) no almacenó las propiedades de Trazado ni Trazado2.";
         Apunta(lectura.sinTrazado, e.gfCodSIG());
         Apunta(lectura.sinTrazado2, e.gfCodSIG());
         return;
     }
-    e.Trazado(LeeTrazado(lectura, lineas->Primeros[0], "trazado 1"));
+    e.Trazado(LeeTrazado(*leido.lineas[0], posicion, "trazado 1"));
     if (!e.Trazado()) Apunta(lectura.sinTrazado, e.gfCodSIG());
-    e.Trazado2(LeeTrazado(lectura, lineas->Primeros[1], "trazado 2"));
+    e.Trazado2(LeeTrazado(*leido.lineas[1], posicion, "trazado 2"));
     if (!e.Trazado2()) Apunta(lectura.sinTrazado2, e.gfCodSIG());
 }
 
 // The trace of one Linea, or nothing when it cannot be read in full. `cual` names it in the log.
-std::shared_ptr<Puntos> lectorArchivo::LeeTrazado(Lectura& lectura, xmlNode* linea, const std::string& cual) {
-    const std::int16_t posicion = lectura.posicion;
+std::shared_ptr<Puntos> lectorArchivo::LeeTrazado(const std::vector<PuntoLeido>& linea, std::int16_t posicion,
+                                                  const std::string& cual) {
     const auto falla = [&](const char* motivo) {
         textoErrores_ +=
             SALTO + ("No se pudo cargar el " + cual) + " del elemento " + std::to_string(posicion) + motivo;
         return nullptr;
     };
-    lectura.deLinea.Recoge(linea);
-    const auto* puntos = AsignaPropiedad(lectura.deLinea, Hijo::Punto, 2, posicion, true);
-    if (!puntos) return falla(". La línea no contiene puntos.");
+    const auto cuantos = static_cast<std::int32_t>(linea.size());
+    if (!AsignaPropiedad(cuantos, Hijo::Punto, 2, posicion, true))
+        return falla(". La línea no contiene puntos.");
     auto trazado = std::make_shared<Puntos>();
-    trazado->Reserva(puntos->Cuantos);
-    for (auto* nodo = SiguienteElemento(linea, linea); nodo; nodo = SiguienteElemento(nodo, linea)) {
-        if (!lectura.deLinea.Es(nodo, Hijo::Punto)) continue;
-        lectura.dePunto.Recoge(nodo);
-        const auto* x = AsignaPropiedad(lectura.dePunto, Hijo::X, 1, posicion, true);
-        const auto* y = AsignaPropiedad(lectura.dePunto, Hijo::Y, 1, posicion, true);
-        if (!x || !y) return falla(". Algún punto del trazado no se guardó correctamente.");
-        const float xPos = LeeReal(TextoDe(x->Primeros[0], lectura.memoria));
-        trazado->Add(xPos, LeeReal(TextoDe(y->Primeros[0], lectura.memoria)));
+    trazado->Reserva(cuantos);
+    for (const PuntoLeido& punto : linea) {
+        const bool hayX = AsignaPropiedad(punto.cuantasX, Hijo::X, 1, posicion, true);
+        const bool hayY = AsignaPropiedad(punto.cuantasY, Hijo::Y, 1, posicion, true);
+        if (!hayX || !hayY) return falla(". Algún punto del trazado no se guardó correctamente.");
+        if (punto.desborda) throw Fallo(6);
+        trazado->Add(punto.x, punto.y);
     }
     return trazado;
 }

@@ -10,7 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "file/Hallazgos.h"
+#include "file/LecturaDeEsquema.h"
+#include "file/SeccionImagen.h"
 #include "model/Elementos.h"
 #include "platform/EscritorXml.h"
 
@@ -27,9 +28,13 @@ class lectorArchivo {
     // The collection that Carga fills; it is not emptied first.
     void Coleccion(std::shared_ptr<Elementos> destino) noexcept { coleccion_ = std::move(destino); }
 
-    // Called once per element read, so that a long load can let pending events through; without it the load
-    // runs in one go.
+    // Called once per element of the file while it is read, so that a long load can let pending events
+    // through; without it the load runs in one go. What it raises ends the load.
     void AlCederTurno(std::function<void()> accion) { cedeTurno_ = std::move(accion); }
+
+    // Of elements with one code, Carga keeps the later ones without a key instead of raising: for who means
+    // to mend them.
+    void AdmiteCodigosRepetidos(bool valor) noexcept { admiteRepetidos_ = valor; }
 
     // Adds the elements of NombreArchivo to the collection. A file that cannot be read, that is not
     // well-formed or that has no element adds nothing and raises nothing. Missing, incomplete and repeated
@@ -44,10 +49,12 @@ class lectorArchivo {
 
     // Of the last Carga: why the file could not be read at all (empty when it could), whether its root is
     // that of a schematic, and the text of its load log (empty when there was nothing to report). When Carga
-    // raises and there is a log text, all was read and only the log could not be written.
+    // raises and there is a log text, all was read and only the log could not be written; when it raises for
+    // a code that two elements have, MotivoSinCargar tells which (empty otherwise).
     const std::string& MotivoSinLeer() const noexcept { return motivo_; }
     bool EsEsquema() const noexcept { return esEsquema_; }
     const std::string& Registro() const noexcept { return registro_; }
+    const std::string& MotivoSinCargar() const noexcept { return sinCargar_; }
 
     // The texts of the background picture's section, by the names of its children; Archivo comes with the
     // document's folder in front. Nothing when the file cannot be read or has no such section; where a child
@@ -55,6 +62,8 @@ class lectorArchivo {
     std::optional<zel::Coleccion<std::string>> LeeImagenFondo();
     // The same for the settings: the text of "VerLineasSecundarias".
     std::optional<zel::Coleccion<std::string>> LeeConfiguracion();
+    // The picture's section with what it says, and all of its texts; nothing when there is none.
+    std::optional<SeccionImagen> LeeSeccionImagen();
 
     // Writing, in this order: the elements, the picture's section when there is one, the settings, the file.
     // NombreArchivo is overwritten with an empty schematic by the first step: whoever wants to keep what it
@@ -70,6 +79,8 @@ class lectorArchivo {
     // copied beside the document. Never raises: what fails ends it.
     void EscribeImagenFondo(const std::string& archivo, double X0, double Y0, double LX, double LY,
                             bool oculta) noexcept;
+    // A section that could not be used, as it was.
+    void EscribeImagenFondo(const std::vector<std::pair<std::string, std::string>>& textos) noexcept;
     void EscribeConfiguracion(bool bVerLineasSecundarias) noexcept;
     // Writes NombreArchivo and lets go of the document; true. Fails with the platform's failure.
     bool GuardaDocumento();
@@ -77,33 +88,33 @@ class lectorArchivo {
   private:
     struct Lectura;
 
-    const Hallazgos::Lista* AsignaPropiedad(const Hallazgos& hallazgos, Hijo hijo, std::int16_t esperados,
-                                            std::int16_t posicion, bool bSinAviso);
+    bool AsignaPropiedad(std::int32_t cuantos, Hijo hijo, std::int16_t esperados, std::int16_t posicion,
+                         bool bSinAviso);
     template <typename Tabla>
-    void LeeHijos(Lectura& lectura, Elemento& e, const Tabla& tabla);
-    void LeeElemento(Lectura& lectura, xmlNode* nodo);
-    void LeeTrazados(Lectura& lectura, Elemento& e);
-    void LeeTrazadosCentral(Lectura& lectura, Elemento& e);
-    std::shared_ptr<Puntos> LeeTrazado(Lectura& lectura, xmlNode* linea, const std::string& cual);
+    void LeeHijos(const ElementoLeido& leido, std::int16_t posicion, Elemento& e, const Tabla& tabla);
+    void LeeElemento(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido);
+    void LeeTrazados(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido, Elemento& e);
+    void LeeTrazadosCentral(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido, Elemento& e);
+    std::shared_ptr<Puntos> LeeTrazado(const std::vector<PuntoLeido>& linea, std::int16_t posicion,
+                                       const std::string& cual);
+    void Agrega(const Lectura& lectura);
     void RehaceTrazados(const std::vector<std::int32_t>& codigos);
     void RehaceTrazados2(const std::vector<std::int32_t>& codigos);
     std::shared_ptr<Elemento> ElementoDe(std::int32_t codigo) const;
     std::string TextoDelRegistro() const;
 
     // The sections beside the elements, as the last Carga found them, and the file that it read: who asks for
-    // them next, of the same file, is spared another parse of it.
+    // them next, of the same file, is spared another reading of it.
     struct Secciones {
         std::string archivo;
         std::uintmax_t bytes = 0;
         std::filesystem::file_time_type cambiado;
-        std::optional<std::vector<std::string>> imagen;
-        std::optional<std::vector<std::string>> configuracion;
+        std::optional<SeccionLeida> imagen;
+        std::optional<SeccionLeida> configuracion;
     };
-    static void LeeSecciones(const DocumentoXml& documento, std::optional<std::vector<std::string>>& imagen,
-                             std::optional<std::vector<std::string>>& configuracion);
     static std::optional<Secciones> HuellaDe(const std::string& archivo);
-    std::optional<std::vector<std::string>> LeeSeccion(
-        std::optional<std::vector<std::string>> Secciones::*seccion);
+    std::optional<SeccionLeida> LeeSeccion(std::optional<SeccionLeida> Secciones::*seccion);
+    std::string Carpeta() const;
     bool NuevoDocumento();
     bool GuardaElemento(const Elemento& e) noexcept;
     void GuardaLinea(const Puntos& trazado);
@@ -118,7 +129,9 @@ class lectorArchivo {
     std::string textoAvisos_;
     std::string motivo_;
     bool esEsquema_ = false;
+    bool admiteRepetidos_ = false;
     std::string registro_;
+    std::string sinCargar_;
     std::optional<Secciones> secciones_;
 
     std::optional<EscritorXml> documento_;  // the one being written

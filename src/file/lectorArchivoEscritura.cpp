@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "file/Conversion.h"
+#include "file/CopiaDeImagen.h"
 #include "file/lectorArchivo.h"
 #include "platform/Archivos.h"
 #include "platform/Numeros.h"
-#include "platform/ReemplazoDeArchivo.h"
 
 namespace zel {
 
@@ -65,31 +65,6 @@ constexpr EscrituraHijo HIJOS_LINEALES[] = {
     {Hijo::NudoOrigen, [](const Elemento& e) { return Texto(e.ElemIni()); }},
 };
 
-// The first descendant of that name, or null.
-xmlNode* BuscaPrimero(const DocumentoXml& documento, xmlNode* cima, const char* nombre) {
-    const xmlChar* propio = documento.Nombre(nombre);
-    if (!propio || !cima) return nullptr;
-    xmlNode* nodo = SiguienteElemento(cima, cima);
-    while (nodo && nodo->name != propio)
-        nodo = SiguienteElemento(nodo, cima);
-    return nodo;
-}
-
-// The texts of a section's children, up to the first that is missing; nothing without the section.
-std::optional<std::vector<std::string>> TextosDeSeccion(const DocumentoXml& documento, const char* seccion,
-                                                        std::span<const char* const> hijos) {
-    xmlNode* const nodo = BuscaPrimero(documento, documento.Raiz(), seccion);
-    if (!nodo) return std::nullopt;
-    std::vector<std::string> textos;
-    std::string memoria;
-    for (const char* hijo : hijos) {
-        const xmlNode* valor = BuscaPrimero(documento, nodo, hijo);
-        if (!valor) break;
-        textos.emplace_back(TextoDe(valor, memoria));
-    }
-    return textos;
-}
-
 bool SonNumeros(std::initializer_list<float> valores) noexcept {
     return std::all_of(valores.begin(), valores.end(), [](float v) { return std::isfinite(v); });
 }
@@ -126,46 +101,46 @@ std::optional<lectorArchivo::Secciones> lectorArchivo::HuellaDe(const std::strin
     return fallo ? std::nullopt : std::optional(std::move(huella));
 }
 
-void lectorArchivo::LeeSecciones(const DocumentoXml& documento,
-                                 std::optional<std::vector<std::string>>& imagen,
-                                 std::optional<std::vector<std::string>>& configuracion) {
-    imagen = TextosDeSeccion(documento, SECCION_IMAGEN, HIJOS_DE_IMAGEN);
-    configuracion = TextosDeSeccion(documento, SECCION_CONFIGURACION, std::span(&VER_LINEAS_SECUNDARIAS, 1));
-}
-
-std::optional<std::vector<std::string>> lectorArchivo::LeeSeccion(
-    std::optional<std::vector<std::string>> Secciones::*seccion) {
+std::optional<SeccionLeida> lectorArchivo::LeeSeccion(std::optional<SeccionLeida> Secciones::*seccion) {
     auto huella = HuellaDe(nombreArchivo_);
     const auto esLaMisma = [&] {
         return secciones_->archivo == huella->archivo && secciones_->bytes == huella->bytes &&
                secciones_->cambiado == huella->cambiado;
     };
     if (secciones_ && huella && esLaMisma()) return *secciones_.*seccion;
-    DocumentoXml documento;
-    if (!documento.Carga(nombreArchivo_)) return std::nullopt;
-    Secciones leidas;
-    LeeSecciones(documento, leidas.imagen, leidas.configuracion);
+    LecturaDeEsquema documento;
+    if (!documento.Lee(nombreArchivo_)) return std::nullopt;
+    const Secciones leidas{{}, 0, {}, documento.Imagen(), documento.Configuracion()};
     return leidas.*seccion;
 }
 
+// Where the schematic is, whatever links lead to it, with its separator; empty for the current folder.
+std::string lectorArchivo::Carpeta() const {
+    return CarpetaDe(SinEnlaces(nombreArchivo_));
+}
+
 std::optional<Coleccion<std::string>> lectorArchivo::LeeImagenFondo() {
-    const auto textos = LeeSeccion(&Secciones::imagen);
-    if (!textos) return std::nullopt;
+    const auto seccion = LeeSeccion(&Secciones::imagen);
+    if (!seccion) return std::nullopt;
     // The file name is stored without its folder, which is the document's.
-    const std::string carpeta = ParteRuta(SinEnlaces(nombreArchivo_)).carpeta;
     zel::Coleccion<std::string> conClaves;
-    for (std::size_t i = 0; i < textos->size(); ++i)
-        conClaves.Add(i == 0 ? carpeta + (*textos)[i] : (*textos)[i], HIJOS_DE_IMAGEN[i]);
+    for (std::size_t i = 0; i < HIJOS_DE_IMAGEN.size() && seccion->textos[i]; ++i)
+        conClaves.Add(i == 0 ? Carpeta() + *seccion->textos[i] : *seccion->textos[i], HIJOS_DE_IMAGEN[i]);
     return conClaves;
 }
 
 std::optional<Coleccion<std::string>> lectorArchivo::LeeConfiguracion() {
-    const auto textos = LeeSeccion(&Secciones::configuracion);
-    if (!textos) return std::nullopt;
+    const auto seccion = LeeSeccion(&Secciones::configuracion);
+    if (!seccion) return std::nullopt;
     zel::Coleccion<std::string> conClaves;
-    for (const std::string& texto : *textos)
-        conClaves.Add(texto, VER_LINEAS_SECUNDARIAS);
+    if (seccion->textos[0]) conClaves.Add(*seccion->textos[0], VER_LINEAS_SECUNDARIAS);
     return conClaves;
+}
+
+std::optional<SeccionImagen> lectorArchivo::LeeSeccionImagen() {
+    const auto seccion = LeeSeccion(&Secciones::imagen);
+    if (!seccion) return std::nullopt;
+    return InterpretaImagen(*seccion, Carpeta());
 }
 
 // An empty schematic goes to the file before anything else: whether it can be written shows at once.
@@ -270,14 +245,23 @@ void lectorArchivo::EscribeImagenFondo(const std::string& archivo, double X0, do
         std::string guardado = archivo;
         if (TieneCarpeta(archivo)) {
             const RutaPartida partes = ParteRuta(archivo);
-            const std::string carpeta = ParteRuta(SinEnlaces(nombreArchivo_)).carpeta;
-            if (partes.carpeta != carpeta) CopiaArchivo(archivo, carpeta + partes.nombre);
-            guardado = partes.nombre;
+            CopiaDeImagen copia(archivo, partes.nombre, SinEnlaces(nombreArchivo_));
+            if (!copia.Aviso().empty()) throw Fallo(75, copia.Aviso());
+            copia.Conserva();
+            guardado = copia.Nombre();
         }
         const std::string textos[] = {guardado,          TextoDeNumero(X0), TextoDeNumero(Y0),
                                       TextoDeNumero(LX), TextoDeNumero(LY), TextoDeBooleano(oculta)};
         for (std::size_t i = 0; i < HIJOS_DE_IMAGEN.size(); ++i)
             AgregaNodo(HIJOS_DE_IMAGEN[i], textos[i]);
+    });
+}
+
+void lectorArchivo::EscribeImagenFondo(
+    const std::vector<std::pair<std::string, std::string>>& textos) noexcept {
+    EscribeSeccion(SECCION_IMAGEN, [&] {
+        for (const auto& [nombre, texto] : textos)
+            AgregaNodo(nombre.c_str(), texto);
     });
 }
 
