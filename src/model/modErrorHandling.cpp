@@ -13,6 +13,14 @@ std::string TextoError(std::int32_t id, std::string_view texto, std::int32_t num
     return descripcion + fallo.Description();
 }
 
+std::string CausaDe(const std::string& descripcion) {
+    constexpr std::string_view ENLACE = ". Error del sistema número: ";
+    const std::size_t enlace = descripcion.rfind(ENLACE);
+    if (enlace == std::string::npos) return descripcion;
+    const std::size_t coma = descripcion.find(", ", enlace + ENLACE.size());
+    return coma == std::string::npos ? descripcion : descripcion.substr(coma + 2);
+}
+
 void LanzaError(std::int32_t id, std::string_view texto) {
     throw Error(BASE_ERRORES + id, std::string(texto), TextoError(id, texto, FalloEnCurso().Number()));
 }

@@ -15,6 +15,11 @@ RutaPartida ParteRuta(std::string_view ruta) {
     return {std::string(ruta.substr(0, nombre)), std::string(ruta.substr(nombre))};
 }
 
+std::string CarpetaDe(const std::string& archivo) {
+    const std::size_t separador = archivo.rfind('/');
+    return separador == std::string::npos ? std::string() : archivo.substr(0, separador + 1);
+}
+
 std::string SinEnlaces(const std::string& nombre) {
     namespace fs = std::filesystem;
     constexpr int MAXIMO_DE_ENLACES = 40;
@@ -29,14 +34,17 @@ std::string SinEnlaces(const std::string& nombre) {
     return ruta.string();
 }
 
-void EscribeRegistro(const std::string& nombre, std::string_view texto) {
-    const std::string entero = '"' + Latin1(texto) + "\"\r\n";
+void EscribeArchivo(const std::string& nombre, std::string_view bytes) {
     std::FILE* archivo = std::fopen(nombre.c_str(), "wb");
     if (!archivo) throw Fallo(NumeroDeErrno(errno));
-    const bool escrito = std::fwrite(entero.data(), 1, entero.size(), archivo) == entero.size();
+    const bool escrito = std::fwrite(bytes.data(), 1, bytes.size(), archivo) == bytes.size();
     const int error = errno;
     const bool cerrado = std::fclose(archivo) == 0;
     if (!escrito || !cerrado) throw Fallo(NumeroDeErrno(escrito ? errno : error));
+}
+
+void EscribeRegistro(const std::string& nombre, std::string_view texto) {
+    EscribeArchivo(nombre, '"' + Latin1(texto) + "\"\r\n");
 }
 
 }  // namespace zel

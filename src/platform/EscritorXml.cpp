@@ -1,9 +1,8 @@
 #include "platform/EscritorXml.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 
+#include "platform/Archivos.h"
 #include "platform/Fallo.h"
 #include "platform/Texto.h"
 
@@ -72,13 +71,8 @@ void EscritorXml::Salto() {
 void EscritorXml::Guarda(const std::string& nombreArchivo) {
     if (!acabado_) Comprueba(xmlTextWriterEndDocument(escritor_.get()));
     acabado_ = true;
-    std::FILE* archivo = std::fopen(nombreArchivo.c_str(), "wb");
-    if (!archivo) throw Fallo(NumeroDeErrno(errno));
-    const auto tamanyo = static_cast<std::size_t>(xmlBufferLength(memoria_.get()));
-    const bool escrito = std::fwrite(xmlBufferContent(memoria_.get()), 1, tamanyo, archivo) == tamanyo;
-    const int error = errno;
-    const bool cerrado = std::fclose(archivo) == 0;
-    if (!escrito || !cerrado) throw Fallo(NumeroDeErrno(escrito ? errno : error));
+    EscribeArchivo(nombreArchivo, {reinterpret_cast<const char*>(xmlBufferContent(memoria_.get())),
+                                   static_cast<std::size_t>(xmlBufferLength(memoria_.get()))});
 }
 
 }  // namespace zel

@@ -23,6 +23,10 @@ namespace {
 namespace fs = std::filesystem;
 using Esquema = std::shared_ptr<Elementos>;
 
+bool EsPng(const std::string& archivo) {
+    return LeeArchivo(archivo).starts_with("png");
+}
+
 Esquema Muestra(const std::string& nombre, int cuantos) {
     auto esquema = std::make_shared<Elementos>();
     for (int i = 1; i <= cuantos; ++i)
@@ -196,7 +200,7 @@ TEST_F(Guardado, ReadsThePictureBackThroughALink) {
     const std::string imagen = carpeta_.Escribe("imagenes/fondo.png", "png");
     Guarda(carpeta_ / "real/a.xml", viejo_);
     fs::create_symlink("real/a.xml", ruta_);
-    GuardaConSeguridad(ruta_.string(), nuevo_, ImagenGuardada{imagen, 1, 2, 3, 4, false}, true);
+    GuardaConSeguridad(ruta_.string(), nuevo_, ImagenGuardada{imagen, 1, 2, 3, 4, false}, true, EsPng);
     lectorArchivo lector;
     lector.NombreArchivo(ruta_.string());
     const auto textos = lector.LeeImagenFondo();
@@ -251,19 +255,19 @@ TEST_F(Guardado, LeavesNothingWhenItCannotSave) {
 
 TEST_F(Guardado, LeavesNoPictureCopyWhenTheSavingFails) {
     fs::create_directory(carpeta_ / "imagenes");
-    const std::string imagen = carpeta_.Escribe("imagenes/fondo.png", "nueva");
+    const std::string imagen = carpeta_.Escribe("imagenes/fondo.png", "png nueva");
     carpeta_.Escribe("fondo.png", "vieja");
     Guarda(ruta_, viejo_);
-    EXPECT_EQ(
-        EnOtroProceso(
-            [&] {
-                std::signal(SIGXFSZ, SIG_IGN);
-                const rlimit tope{4096, 4096};
-                if (setrlimit(RLIMIT_FSIZE, &tope) != 0) _exit(253);
-                GuardaConSeguridad(ruta_.string(), nuevo_, ImagenGuardada{imagen, 0, 0, 1, 1, false}, true);
-            },
-            false),
-        61);
+    EXPECT_EQ(EnOtroProceso(
+                  [&] {
+                      std::signal(SIGXFSZ, SIG_IGN);
+                      const rlimit tope{4096, 4096};
+                      if (setrlimit(RLIMIT_FSIZE, &tope) != 0) _exit(253);
+                      GuardaConSeguridad(ruta_.string(), nuevo_, ImagenGuardada{imagen, 0, 0, 1, 1, false},
+                                         true, EsPng);
+                  },
+                  false),
+              61);
     EXPECT_EQ(LeeArchivo(ruta_), bytesViejos_);
     EXPECT_EQ(LeeArchivo(carpeta_ / "fondo.png"), "vieja");
     EXPECT_EQ(Nombres(carpeta_ / ""), (std::set<std::string>{"año.xml", "fondo.png", "imagenes"}));
@@ -292,13 +296,13 @@ TEST_F(Guardado, CopiesAPictureThatIsReadOnly) {
     const std::string imagen = carpeta_.Escribe("imagenes/fondo.png", "png");
     chmod(imagen.c_str(), 0444);
     chmod((carpeta_ / "").c_str(), 0777);
-    EXPECT_EQ(
-        EnOtroProceso(
-            [&] {
-                GuardaConSeguridad(ruta_.string(), nuevo_, ImagenGuardada{imagen, 0, 0, 1, 1, false}, true);
-            },
-            true),
-        0);
+    EXPECT_EQ(EnOtroProceso(
+                  [&] {
+                      GuardaConSeguridad(ruta_.string(), nuevo_, ImagenGuardada{imagen, 0, 0, 1, 1, false},
+                                         true, EsPng);
+                  },
+                  true),
+              0);
     EXPECT_EQ(LeeArchivo(carpeta_ / "fondo.png"), "png");
     EXPECT_NE(LeeArchivo(ruta_).find("<Archivo>fondo.png</Archivo>"), std::string::npos);
 }
