@@ -7,6 +7,7 @@
 #include <numbers>
 
 #include "platform/Fallo.h"
+#include "platform/qt/TrazoFino.h"
 
 namespace zel {
 
@@ -14,17 +15,20 @@ namespace {
 
 // Beyond this the rasterizer is not exact any more; strokes are cut there.
 constexpr double LEJOS = 30000;
+constexpr double ANCHO_FINO = 2;  // of pens whose strokes are drawn pixel by pixel
 
 QPainter::CompositionMode ModoDeComposicion(bool invierte) noexcept {
     return invierte ? QPainter::RasterOp_NotDestination : QPainter::CompositionMode_SourceOver;
 }
 
+// Also what is nowhere, since a coordinate is no number.
 bool EstaLejos(QPointF p) noexcept {
-    return std::abs(p.x()) > LEJOS || std::abs(p.y()) > LEJOS;
+    return !(std::abs(p.x()) <= LEJOS && std::abs(p.y()) <= LEJOS);
 }
 
 // The part of a segment inside the square of half side LEJOS; false when there is none.
 bool Recorta(QPointF& a, QPointF& b) noexcept {
+    if (!std::isfinite(a.x() + a.y()) || !std::isfinite(b.x() + b.y())) return false;
     double desde = 0;
     double hasta = 1;
     const QPointF d = b - a;
@@ -156,7 +160,11 @@ void Lienzo::Traza() {
             TrazaUnaVez();
         return;
     }
-    if (n == 2) {
+    if (!EsSolida()) {
+        TrazaARayas();
+    } else if (AnchoDePluma() <= ANCHO_FINO) {
+        TrazaFina(cadena_, true);
+    } else if (n == 2) {
         pintor_.drawLine(cadena_[0], cadena_[1]);
     } else if (n > 3 && cadena_.front() == cadena_.back()) {
         const QBrush relleno = pintor_.brush();
@@ -165,6 +173,37 @@ void Lienzo::Traza() {
         if (relleno.style() != Qt::NoBrush) pintor_.setBrush(relleno);
     } else {
         pintor_.drawPolyline(cadena_.data(), n);
+    }
+}
+
+void Lienzo::TrazaFina(std::span<const QPointF> cadena, bool conRemates) {
+    TrazoFino(imagen_, AnchoDePluma(), ColorDe(pluma().ForeColor).rgb()).Traza(cadena, conRemates);
+}
+
+// Dash by dash, segment by segment.
+void Lienzo::TrazaARayas() {
+    const double ancho = AnchoDePluma();
+    const QRectF cerca = QRectF(imagen_.rect()).adjusted(-ancho, -ancho, ancho, ancho);
+    for (std::size_t i = 1; i < cadena_.size(); ++i) {
+        const QPointF a = cadena_[i - 1];
+        const QPointF v = cadena_[i] - a;
+        const double largo = std::hypot(v.x(), v.y());
+        const QList<qreal> trazos = TrazosPara(pluma().DrawStyle, largo / ancho);
+        const auto raya = [&](double desde, double hasta) {
+            const QPointF tramo[] = {a + v * (desde / largo), a + v * (std::min(hasta, largo) / largo)};
+            const QRectF caja = QRectF(tramo[0], tramo[1]).normalized().adjusted(-1, -1, 1, 1);
+            if (caja.intersects(cerca)) TrazaFina(tramo, false);
+        };
+        if (trazos.isEmpty()) {
+            if (largo > 0) raya(0, largo);
+            continue;
+        }
+        // The first dash has lost its first half, which ends the segment.
+        double donde = -trazos[0] * ancho / 2;
+        for (qsizetype t = 0; donde < largo; t = (t + 2) % trazos.size()) {
+            raya(std::max(donde, 0.0), donde + trazos[t] * ancho);
+            donde += (trazos[t] + trazos[t + 1]) * ancho;
+        }
     }
 }
 
@@ -232,20 +271,21 @@ void Lienzo::TrazaUnaVez() {
 
 // A stroke that goes far beyond the image: the parts of it that are near, each as one stroke.
 void Lienzo::TrazaLejana() {
-    std::vector<QPointF> parte;
+    const std::vector<QPointF> entera = std::move(cadena_);
+    cadena_.clear();
     const auto dibuja = [&] {
-        if (parte.size() > 1) pintor_.drawPolyline(parte.data(), static_cast<int>(parte.size()));
-        parte.clear();
+        if (cadena_.size() > 1) Traza();
+        cadena_.clear();
     };
-    for (std::size_t i = 1; i < cadena_.size(); ++i) {
-        QPointF a = cadena_[i - 1];
-        QPointF b = cadena_[i];
+    for (std::size_t i = 1; i < entera.size(); ++i) {
+        QPointF a = entera[i - 1];
+        QPointF b = entera[i];
         if (!Recorta(a, b)) continue;
-        if (parte.empty() || parte.back() != a) {
+        if (cadena_.empty() || cadena_.back() != a) {
             dibuja();
-            parte.push_back(a);
+            cadena_.push_back(a);
         }
-        parte.push_back(b);
+        cadena_.push_back(b);
     }
     dibuja();
 }
@@ -263,6 +303,7 @@ void Lienzo::Caja(PuntoXY esquina, PuntoXY opuesta) {
     const auto cerca = [](QPointF p) {
         return QPointF(std::clamp(p.x(), -LEJOS, LEJOS), std::clamp(p.y(), -LEJOS, LEJOS));
     };
+    if (!EsPunto(EnPixeles(esquina)) || !EsPunto(EnPixeles(opuesta))) return;
     const QRectF caja = QRectF(cerca(EnPixeles(esquina)), cerca(EnPixeles(opuesta))).normalized();
     if (pluma().FillStyle == RELLENO_SOLIDO) {
         const QRect entera(QPoint(qRound(caja.left()), qRound(caja.top())),
@@ -286,6 +327,7 @@ void Lienzo::Circle(PuntoXY centro, float radio, double inicio, double fin) {
     if (fin < inicio) fin += 2 * std::numbers::pi;
     const QPointF c = EnPixeles(centro);
     const double r = radio * PixelesPorUnidadX();
+    if (!EsPunto(c) || !std::isfinite(r)) return;
     const bool entero = fin - inicio >= 2 * std::numbers::pi;
     // As many sides as keep the polygon within a twelfth of a pixel of the circle.
     const double paso = 2 * std::acos(1 - std::min(1.0, 1.0 / 12 / std::max(r, 1.0 / 12)));
@@ -367,14 +409,16 @@ void Lienzo::Print(std::string_view texto) {
     Toca();
     AsientaPuntos();
     FuenteDeTexto& fuente = Fuente();
-    if (Reduccion() < 1) return;  // less than a pixel high: nothing to be seen
+    const QPointF esquina = EnPixeles({CurrentX(), CurrentY()});
+    if (Reduccion() < 1 || !EsPunto(esquina))
+        return;  // less than a pixel high, or nowhere: nothing to be seen
     pintor_.setCompositionMode(QPainter::CompositionMode_SourceOver);
     hayPlumaPuesta_ = false;
     if (!FontTransparent()) {
         const QRectF visible = CajaDeTexto(texto) & QRectF(imagen_.rect());
         pintor_.fillRect(visible.toAlignedRect(), ColorQt(BackColor()));
     }
-    fuente.Pinta(pintor_, EnPixeles({CurrentX(), CurrentY()}), ColorQt(pluma().ForeColor), texto);
+    fuente.Pinta(pintor_, esquina, ColorQt(pluma().ForeColor), texto);
 }
 
 void Lienzo::MousePointer(std::int16_t puntero, std::int32_t numeroDeCursor) {

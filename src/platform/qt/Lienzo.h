@@ -56,6 +56,8 @@ class Lienzo : public SuperficieQt {
     void PonPluma();
     void Ajusta(std::vector<QPointF>& puntos) const;
     void Traza();
+    void TrazaFina(std::span<const QPointF> cadena, bool conRemates);
+    void TrazaARayas();
     void TrazaUnaVez();
     void InviertePixeles(const QRect& zona);
     void InvierteTramo(QPointF a, QPointF b);

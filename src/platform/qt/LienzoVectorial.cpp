@@ -1,6 +1,7 @@
 #include "platform/qt/LienzoVectorial.h"
 
 #include <QPainterPath>
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -32,7 +33,10 @@ void LienzoVectorial::Line(std::span<const PuntoXY> cadena) {
     cadena_.clear();
     for (const PuntoXY punto : cadena)
         cadena_.append(EnPixeles(punto));
-    if (cadena_.size() > 3 && cadena_.isClosed()) {
+    if (!std::all_of(cadena_.begin(), cadena_.end(), EsPunto)) return;
+    if (!EsSolida()) {
+        TrazaARayas();
+    } else if (cadena_.size() > 3 && cadena_.isClosed()) {
         cadena_.removeLast();
         const QBrush relleno = pintor_.brush();
         pintor_.setBrush(Qt::NoBrush);
@@ -43,14 +47,32 @@ void LienzoVectorial::Line(std::span<const PuntoXY> cadena) {
     }
 }
 
+// Each segment with its own rhythm; the strokes stay strokes.
+void LienzoVectorial::TrazaARayas() {
+    const double ancho = puesta_.DrawWidth * escala_;
+    QPen pluma = pintor_.pen();
+    for (qsizetype i = 1; i < cadena_.size(); ++i) {
+        const QLineF tramo(cadena_[i - 1], cadena_[i]);
+        const QList<qreal> trazos = TrazosPara(puesta_.DrawStyle, tramo.length() / ancho);
+        pluma.setStyle(Qt::SolidLine);
+        if (!trazos.isEmpty()) {
+            pluma.setDashPattern(trazos);
+            pluma.setDashOffset(trazos[0] / 2);
+        }
+        pintor_.setPen(pluma);
+        pintor_.drawLine(tramo);
+    }
+    hayPlumaPuesta_ = false;
+}
+
 void LienzoVectorial::Caja(PuntoXY esquina, PuntoXY opuesta) {
-    if (Invierte()) return;
+    if (Invierte() || !EsPunto(EnPixeles(esquina)) || !EsPunto(EnPixeles(opuesta))) return;
     PonPluma();
     pintor_.drawRect(QRectF(EnPixeles(esquina), EnPixeles(opuesta)).normalized());
 }
 
 void LienzoVectorial::Circle(PuntoXY centro, float radio) {
-    if (Invierte()) return;
+    if (Invierte() || !EsPunto(EnPixeles(centro)) || !std::isfinite(radio)) return;
     PonPluma();
     const double r = radio * PixelesPorUnidadX();
     pintor_.drawEllipse(EnPixeles(centro), r, r);
@@ -62,7 +84,7 @@ void LienzoVectorial::Circle(PuntoXY centro, float radio, double inicio, double 
         Circle(centro, radio);
         return;
     }
-    if (Invierte()) return;
+    if (Invierte() || !EsPunto(EnPixeles(centro)) || !std::isfinite(radio)) return;
     PonPluma();
     constexpr double GRADOS = 180 / std::numbers::pi;
     const double r = radio * PixelesPorUnidadX();
@@ -74,7 +96,7 @@ void LienzoVectorial::Circle(PuntoXY centro, float radio, double inicio, double 
 }
 
 void LienzoVectorial::PSet(PuntoXY punto, std::int32_t color) {
-    if (Invierte()) return;
+    if (Invierte() || !EsPunto(EnPixeles(punto))) return;
     pintor_.fillRect(QRectF(EnPixeles(punto) - QPointF(escala_, escala_) / 2, QSizeF(escala_, escala_)),
                      ColorDe(color));
 }
@@ -87,6 +109,7 @@ void LienzoVectorial::PaintPicture(const zel::Imagen& imagen, PuntoXY esquina, f
 void LienzoVectorial::Print(std::string_view texto) {
     const FuenteDeTexto& fuente = Fuente();
     const QRectF caja = CajaDeTexto(texto);
+    if (!EsPunto(caja.topLeft())) return;
     if (!FontTransparent()) pintor_.fillRect(caja, ColorQt(BackColor()));
     hayPlumaPuesta_ = false;
     const QTransform entera = pintor_.transform();

@@ -31,6 +31,7 @@ class LienzoVectorial : public SuperficieQt {
 
   private:
     void PonPluma();
+    void TrazaARayas();
 
     double escala_;
     QPainter pintor_;

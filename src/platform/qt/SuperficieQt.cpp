@@ -1,6 +1,8 @@
 #include "platform/qt/SuperficieQt.h"
 
+#include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include "platform/Fallo.h"
 #include "platform/qt/ImagenQt.h"
@@ -42,6 +44,16 @@ QList<qreal> SuperficieQt::Trazos(std::int16_t estilo) {
         default:
             return {};
     }
+}
+
+QList<qreal> SuperficieQt::TrazosPara(std::int16_t estilo, double largo) {
+    QList<qreal> trazos = Trazos(estilo);
+    const double ronda = std::accumulate(trazos.begin(), trazos.end(), 0.0);
+    if (ronda == 0 || largo < ronda / 2) return {};
+    const double escala = largo / (ronda * std::max(1.0, std::round(largo / ronda)));
+    for (qreal& trazo : trazos)
+        trazo *= escala;
+    return trazos;
 }
 
 QPen SuperficieQt::PlumaQt(double ancho) const {

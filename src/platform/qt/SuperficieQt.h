@@ -7,6 +7,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
+#include <cmath>
 
 #include "platform/Superficie.h"
 #include "platform/qt/Fuentes.h"
@@ -47,6 +48,8 @@ class SuperficieQt : public Superficie {
                 (double{punto.Y} - ScaleTop()) * PixelesPorUnidadY()};
     }
 
+    // A point that is a number, however far.
+    static bool EsPunto(QPointF p) noexcept { return std::isfinite(p.x()) && std::isfinite(p.y()); }
     static QColor ColorQt(std::int32_t color) {
         return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
     }
@@ -57,6 +60,10 @@ class SuperficieQt : public Superficie {
     bool EsSolida() const noexcept { return pluma().DrawStyle == ESTILO_SOLIDO || pluma().DrawWidth > 1; }
     // Dashes and gaps of a dashed style, in units of the pen's width.
     static QList<qreal> Trazos(std::int16_t estilo);
+    // The same for a segment of that length, in those units: as many whole rounds as fit best, from the
+    // middle of a dash to the middle of a dash, so that no bend falls into a gap. Empty where there is room
+    // for none.
+    static QList<qreal> TrazosPara(std::int16_t estilo, double largo);
     // The pen as Qt's, with round ends when it is solid.
     QPen PlumaQt(double ancho) const;
 
