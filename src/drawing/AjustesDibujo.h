@@ -13,6 +13,7 @@ struct AjustesDibujo {
     TipoElemento iTipoHerramienta = ctFlecha;  // the kind being drawn
     float EscalaDibujo = 1;                    // over ScaleWidth it is the plain text size in points
     bool bVistaActualizada = true;             // aquifers show their dots only then
+    float pasoDeParrilla = 0;  // between an aquifer's dots, world units; 0: by the visible width
     bool bMostrarEtiquetas = true;
     bool bMostrarLineasOcultas = true;
 

@@ -1,10 +1,12 @@
 #include "drawing/Conducciones.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <vector>
 
 #include "drawing/Colores.h"
+#include "drawing/FalloDeElemento.h"
 #include "drawing/Geometria.h"
 #include "drawing/Marco.h"
 #include "model/TamanyoUnidad.h"
@@ -49,10 +51,12 @@ PuntoXY Desplazado(PuntoXY p, double dx, double dy) noexcept {
     return {static_cast<float>(p.X + dx), static_cast<float>(p.Y + dy)};
 }
 
-// The dashed twin of a segment, a tenth of the unit to the right of the direction of travel.
+// The dashed twin of a segment, a tenth of the unit to the right of the direction of travel; where the pen is
+// wider than that, a pixel clear of it.
 void DibujaGemela(Superficie& panel, PuntoXY a, PuntoXY b) {
     const double angulo = Arcotangente(b.X - a.X, b.Y - a.Y) - PI / 2;
-    const double d = TamanyoUnidad() / 10;
+    const double aUnPixel = (panel.pluma().DrawWidth + 1) * double{panel.AnchoDePixel()};
+    const double d = std::max(double{TamanyoUnidad()} / 10, aUnPixel);
     const double dx = d * std::cos(angulo);
     const double dy = d * std::sin(angulo);
     panel.Line(Desplazado(a, dx, dy), Desplazado(b, dx, dy));
@@ -201,13 +205,13 @@ void DibujaLineasSecundarias(Superficie& panel, const AjustesDibujo& ajustes, co
     if (!ajustes.bMostrarLineasOcultas) return;
     PreparaNegro(panel);
     const Marco visible = Marco::Visible(panel);
-    bool incoherente = false;
+    const Elemento* incoherente = nullptr;  // the first with a connection to nobody
     const auto dibuja = [&](const Elemento& e) {
         for (const std::int32_t codigo : {e.ConecSec1(), e.ConecSec2()}) {
             if (codigo <= 0) continue;
             const auto t = elementos.ItemCodSIG(codigo);
             if (!t) {
-                incoherente = incoherente || !colElementos.ItemCodSIG(codigo);
+                if (!incoherente && !colElementos.ItemCodSIG(codigo)) incoherente = &e;
                 continue;
             }
             const PuntoXY p1 = PtoContorno(e.XPos(), e.YPos(), t->XPos(), t->YPos(), e.Tamanyo());
@@ -223,7 +227,9 @@ void DibujaLineasSecundarias(Superficie& panel, const AjustesDibujo& ajustes, co
             dibuja(*e);
     }
     if (incoherente) {
-        LanzaErrorVisor(ajustes.iEstado, ". ErrDibujaLineasSecundarias: datos incoherentes (Esquema)");
+        DiciendoCual(*incoherente, [&] {
+            LanzaErrorVisor(ajustes.iEstado, ". ErrDibujaLineasSecundarias: datos incoherentes (Esquema)");
+        });
     }
 } catch (...) {
     LanzaErrorVisor(ajustes.iEstado, ". ErrDibujaLineasSecundarias (Esquema)");

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "drawing/Colores.h"
+#include "drawing/FalloDeElemento.h"
 #include "drawing/Fuente.h"
 #include "drawing/Marco.h"
 #include "drawing/PartesDelDibujo.h"
@@ -77,7 +78,9 @@ void DibujaEtiquetas(Superficie& panel, const AjustesDibujo& ajustes, const Elem
     PreparaNegro(panel);
     const Alcance alcance(panel, ajustes);
     PartesDelDibujo etiquetas;
-    const auto dibuja = [&](const Elemento& e) { DibujaEtiqueta(panel, ajustes, e, alcance); };
+    const auto dibuja = [&](const Elemento& e) {
+        DiciendoCual(e, [&] { DibujaEtiqueta(panel, ajustes, e, alcance); });
+    };
     if (bSoloSeleccionado && elemSeleccionado) {
         dibuja(*elemSeleccionado);
     } else if (indice && alcance.alto.Vale()) {

@@ -5,6 +5,7 @@
 
 #include "drawing/Colores.h"
 #include "drawing/Conducciones.h"
+#include "drawing/FalloDeElemento.h"
 #include "drawing/NumeroDeEstado.h"
 #include "drawing/Resaltado.h"
 #include "drawing/Simbolos.h"
@@ -119,7 +120,7 @@ void AlternaContorno(Superficie& panel, const AjustesDibujo& ajustes, const Marc
         case E_ARRASTRAR_ELEMENTO:
             E_13_DibujaColeccSegmentos(panel, ajustes, m);
             if (!m.elemSeleccionado || !m.puntoReferencia) break;
-            DibujarElemento(panel, ajustes, m.elemSeleccionado, true, m.puntoReferencia->XPos(),
+            DibujarFantasma(panel, ajustes, *m.elemSeleccionado, m.puntoReferencia->XPos(),
                             m.puntoReferencia->YPos());
             break;
         case E_ARRASTRAR_PUNTO:
@@ -152,7 +153,7 @@ void PintaResaltado(Superficie& panel, const AjustesDibujo& ajustes, const Marca
         case E_UNO_A_UNO:
             if (!marcas.elemSubsistema) return;
             for (const auto& e : *marcas.elemSubsistema)
-                paso([&] { SombreaElemento(panel, ajustes, e.get()); });
+                paso([&] { DiciendoCual(*e, [&] { SombreaElemento(panel, ajustes, e.get()); }); });
             return;
         default:
             paso([&] { SombreaElemento(panel, ajustes, marcas.elemSeleccionado); });

@@ -40,7 +40,7 @@ bool EnOctogono(double px, double py, double r) noexcept {
 void DibujaAcuiferoParrilla(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e) try {
     if (!ajustes.bVistaActualizada || EstadoSinParrilla(ajustes.iEstado)) return;
     const double r = e.Tamanyo() * TamanyoUnidad();
-    const double paso = panel.ScaleWidth() * PASO;
+    const double paso = ajustes.pasoDeParrilla > 0 ? ajustes.pasoDeParrilla : panel.ScaleWidth() * PASO;
     const double izquierda = e.XPos() - r;
     const double abajo = e.YPos() - r;
     const double fondo = double{panel.ScaleTop()} + panel.ScaleHeight();

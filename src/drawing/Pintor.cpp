@@ -4,6 +4,7 @@
 
 #include "drawing/Conducciones.h"
 #include "drawing/Etiquetas.h"
+#include "drawing/FalloDeElemento.h"
 #include "drawing/Fuente.h"
 #include "drawing/Marco.h"
 #include "drawing/Simbolos.h"
@@ -22,6 +23,11 @@ float MargenDeDibujo(Superficie& panel, const AjustesDibujo& ajustes) {
 
 // How far from its centre a symbol reaches, of its radius.
 constexpr float ALCANCE_DE_SIMBOLO = 1.2F;
+
+// How far from its points a trace reaches, in pixels, with a pen of that width: its twin is beside it.
+constexpr float AlcanceDeTrazado(float ancho) noexcept {
+    return 2 * ancho + 2;
+}
 
 // Few elements are in sight when few of a sample are, one in that many. Then choosing them beforehand takes
 // less time than it saves.
@@ -50,7 +56,7 @@ bool ParteVisible::CabeDibujar(const Elemento& e) const {
     if (!e.Trazado() || (tipo == ctCentralHidroelectrica && !e.Trazado2())) return true;
     if (e.Trazado()->Count() < 2) return true;
     Marco trazados;
-    const float deTrazado = margen + e.Tamanyo() * anchoDePixel;
+    const float deTrazado = margen + AlcanceDeTrazado(e.Tamanyo()) * anchoDePixel;
     trazados.Crece(*e.Trazado(), deTrazado);
     if (tipo == ctCentralHidroelectrica) {
         if (e.Trazado2()->Count() < 2) return true;
@@ -71,8 +77,9 @@ bool ParteVisible::MuestraPocos(const Elementos& elementos) const {
 }
 
 Recuadro ParteVisible::Region() const noexcept {
-    const float unidad = std::max({ALCANCE_DE_SIMBOLO * TamanyoUnidad(), anchoDePixel, 0.0F});
-    return Recuadro::ConHolgura(visible, double{margen} + Elemento::TAMANYO_MAXIMO * double{unidad});
+    const float simbolo = ALCANCE_DE_SIMBOLO * TamanyoUnidad() * Elemento::TAMANYO_MAXIMO;
+    const float trazado = AlcanceDeTrazado(Elemento::TAMANYO_MAXIMO) * anchoDePixel;
+    return Recuadro::ConHolgura(visible, double{margen} + std::max({simbolo, trazado, 0.0F}));
 }
 
 class Fallos {
@@ -115,7 +122,8 @@ std::vector<std::string> PintaEsquema(Superficie& panel, const AjustesDibujo& aj
     fallos.Intenta([&] { parte.margen = MargenDeDibujo(panel, ajustes); });
     if (indice && !parte.MuestraPocos(elementos)) indice = nullptr;
     const auto dibuja = [&](const Elemento& e) {
-        if (parte.CabeDibujar(e)) fallos.Intenta([&] { DibujarElemento(panel, ajustes, &e, false); });
+        if (!parte.CabeDibujar(e)) return;
+        fallos.Intenta([&] { DiciendoCual(e, [&] { DibujarElemento(panel, ajustes, &e, false); }); });
     };
     if (indice) {
         for (const Elemento* e : indice->Cuerpos(parte.Region()))

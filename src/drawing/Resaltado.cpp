@@ -13,15 +13,29 @@ namespace zel {
 
 namespace {
 
+constexpr float PIXELES_DE_HOLGURA = 3;
+
+// Two sides closer than that, on both sides of their middle, become that far apart.
+void Separa(float& menor, float& mayor, float holgura) noexcept {
+    if (mayor - menor >= 2 * holgura) return;
+    const float medio = (menor + mayor) / 2;
+    menor = medio - holgura;
+    mayor = medio + holgura;
+}
+
 void Enmarca(Superficie& panel, const Elemento& e, std::int32_t iEstado) {
     const auto esquinas = EncuadreConduccion(e, iEstado);
-    const auto a = esquinas->Item(1);
-    const auto b = esquinas->Item(2);
+    PuntoXY a{esquinas->Item(1)->XPos(), esquinas->Item(1)->YPos()};
+    PuntoXY b{esquinas->Item(2)->XPos(), esquinas->Item(2)->YPos()};
+    // Around a straight line the frame would lie on the line itself.
+    const float holgura = (e.Tamanyo() / 2 + PIXELES_DE_HOLGURA) * panel.AnchoDePixel();
+    Separa(a.X, b.X, holgura);
+    Separa(a.Y, b.Y, holgura);
     panel.DrawWidth(1);
     panel.DrawStyle(Superficie::ESTILO_TRAZOS);
     panel.ForeColor(COLOR_AZUL);
     panel.DrawMode(Superficie::MODO_COPIAR);
-    panel.Caja({a->XPos(), a->YPos()}, {b->XPos(), b->YPos()});
+    panel.Caja(a, b);
     panel.DrawStyle(Superficie::ESTILO_SOLIDO);
     panel.DrawWidth(1);
 }
@@ -49,7 +63,7 @@ void SombreaElemento(Superficie& panel, const AjustesDibujo& ajustes, const Elem
     panel.DrawMode(Superficie::MODO_NEGRO);
     if (TieneSimbolo(e.Tipo()))
         Invierte(panel, e);
-    else if (TipoConocido(e.Tipo()))
+    else if (TipoConocido(e.Tipo()) && e.Trazado() && e.Trazado()->Count() > 0)
         Enmarca(panel, e, ajustes.iEstado);
     if (e.MostrarEtiqueta() && ajustes.bMostrarEtiquetas) {
         const CajaEtiqueta caja = MideEtiqueta(panel, ajustes, e, e.XPos(), e.YPos());

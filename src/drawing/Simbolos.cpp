@@ -141,6 +141,14 @@ void DibujarElemento(Superficie& panel, const AjustesDibujo& ajustes, const Elem
     LanzaErrorVisor(ajustes.iEstado, ". ErrDibujarElemento (Esquema)");
 }
 
+void DibujarFantasma(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e, float X,
+                     float Y) try {
+    if (const DibujaSimbolo dibuja = SimboloDe(e.Tipo())) dibuja(panel, ajustes, e, true, X, Y);
+    if (e.MostrarEtiqueta() && ajustes.bMostrarEtiquetas) DibujaEtiquetaFantasma(panel, ajustes, e, X, Y);
+} catch (...) {
+    LanzaErrorVisor(ajustes.iEstado, ". ErrDibujarElemento (Esquema)");
+}
+
 void DibujarNudo(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e, bool bFantasma, float X,
                  float Y) try {
     DibujarSimbolo(
@@ -235,10 +243,11 @@ void DibujarSubcuenca(Superficie& panel, const AjustesDibujo& ajustes, const Ele
         const PuntoXY caja[] = {
             {c.X - r, c.Y + r}, {c.X - r, c.Y - r}, {c.X + r, c.Y - r}, {c.X + r, c.Y + r}};
         panel.Line(caja);
-        const float x0 = Entero16(c.X - r);
-        const float y0 = Entero16(c.Y - r / 2);
-        const float w = Entero16(2 * r);
-        const float h = Entero16(r);
+        const auto entero = [](float valor) { return static_cast<float>(Entero32(valor)); };
+        const float x0 = entero(c.X - r);
+        const float y0 = entero(c.Y - r / 2);
+        const float w = entero(2 * r);
+        const float h = entero(r);
         const PuntoXY perfil[] = {{x0, y0},
                                   {x0 + 0.2F * w, y0 + 0.3F * h},
                                   {x0 + 0.3F * w, y0 + 0.9F * h},

@@ -19,6 +19,10 @@ namespace zel {
 void DibujarElemento(Superficie& panel, const AjustesDibujo& ajustes, const Elemento* elemento,
                      bool bFantasma, float X = 0, float Y = 0);
 
+// What of a ghost inverts, its symbol and its label: where the element itself is on the panel already,
+// drawing the rest of it once more would darken its smooth edges.
+void DibujarFantasma(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e, float X, float Y);
+
 void DibujarNudo(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e, bool bFantasma, float X,
                  float Y);
 void DibujarEmbalse(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e, bool bFantasma,

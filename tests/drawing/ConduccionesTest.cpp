@@ -8,7 +8,9 @@ namespace zel::pruebas {
 
 const Vertices CODO = {{10, 10}, {50, 10}, {50, 40}};
 const std::string LINEA_DEL_CODO = "linea 10,10 50,10 50,40";
+// A tenth of the unit aside, or a pixel clear of the pen where that is more.
 const std::string GEMELAS_DEL_CODO = "; linea 10,9.6 50,9.6; linea 50.4,10 50.4,40";
+const std::string GEMELAS_DE_DOS = "; linea 10,9.4 50,9.4; linea 50.6,10 50.6,40";
 const std::string PUNTA_DEL_CODO = "; linea 50,40 49.17,38 50,39.4 50.83,38 50,40";
 
 TEST(Conducciones, EachKindHasItsLineItsTwinItsWidthAndItsColourAndEndsInAnArrowhead) {
@@ -22,7 +24,7 @@ TEST(Conducciones, EachKindHasItsLineItsTwinItsWidthAndItsColourAndEndsInAnArrow
         SuperficieGrabadora panel;
         panel.DrawMode(Superficie::MODO_INVERTIR);
         DibujarConduccion(panel, Ajustes(), Lineal(static_cast<TipoElemento>(tipo++), {10, 10}, CODO, 2.5F));
-        EXPECT_EQ(Relato(panel.trazos), LINEA_DEL_CODO + (gemela ? GEMELAS_DEL_CODO : "") + PUNTA_DEL_CODO);
+        EXPECT_EQ(Relato(panel.trazos), LINEA_DEL_CODO + (gemela ? GEMELAS_DE_DOS : "") + PUNTA_DEL_CODO);
         const std::string resto = " ancho " + std::to_string(ancho) + " color " + std::to_string(color);
         for (const Trazo& t : panel.trazos) {
             const bool primera = &t == &panel.trazos.front();
