@@ -35,7 +35,7 @@ struct PreguntaDeTamanyo {
 };
 
 PreguntaDeTamanyo PreguntaPara(TipoElemento tipo) {
-    if (TieneSimbolo(tipo))
+    if (SeTrataComoSimbolo(tipo))
         return {TextoMensajeODesconocido(PREGUNTA_TAMANYO), SIMBOLO_MINIMO, SIMBOLO_MAXIMO, TANTO_POR_CIENTO};
     return {"Escriba el grosor deseado para la conducción (entre 1 y 20):", LINEA_MINIMA, LINEA_MAXIMA, 1};
 }
@@ -212,7 +212,7 @@ void Apariencia::menuContextualEtiquetaPegajosa_Click() {
 }
 
 void Apariencia::DespegaDelUsuario(Elemento& e) {
-    if (TieneSimbolo(e.Tipo())) {
+    if (SeTrataComoSimbolo(e.Tipo())) {
         e.EtiquetaMovida(false);
         const PuntoXY etiqueta = EtiquetaDelSimbolo();
         e.EtiquetaPosX(etiqueta.X);

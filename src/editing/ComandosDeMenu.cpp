@@ -1,6 +1,9 @@
 #include "editing/ComandosDeMenu.h"
 
+#include <filesystem>
+
 #include "editing/OrdenDeMenu.h"
+#include "platform/Dialogos.h"
 
 namespace zel {
 
@@ -77,13 +80,32 @@ void ComandosDeMenu::menuContextualSalirSeleccion_Click() {
 void ComandosDeMenu::menuContextualSeleccionExportar_Click() {
     Orden(". ErrmenuContextualSeleccionExportar_Click (Esquema)", [&] {
         if (trabajo_.iEstado != E_SUBSISTEMA) return;
-        const std::string ruta = dialogo_.ShowSave();
-        trabajo_.ExigeVisor();
+        const std::string ruta = ArchivoElegido();
         // The host may have ended the selection while the dialog was open.
         if (ruta.empty() || trabajo_.iEstado != E_SUBSISTEMA || !trabajo_.elemSubsistema) return;
-        exporta_(ruta, trabajo_.elemSubsistema);
+        try {
+            exporta_(ruta, trabajo_.elemSubsistema);
+        } catch (const Fallo& fallo) {
+            dialogos().MsgBox("No se puede exportar la selección a \"" + ruta +
+                              "\": " + CausaDe(fallo.Description()) + ". Escoja otra carpeta u otro nombre.");
+            trabajo_.ExigeVisor();
+        }
         refresco_.PedirRefresco();
     });
+}
+
+// A name without an ending gets that of a schematic; where that is a file's already, the dialog asks about
+// it.
+std::string ComandosDeMenu::ArchivoElegido() {
+    std::string ruta = dialogo_.ShowSave();
+    trabajo_.ExigeVisor();
+    if (ruta.empty() || std::filesystem::path(ruta).has_extension()) return ruta;
+    ruta += ".xml";
+    std::error_code error;
+    if (!std::filesystem::exists(ruta, error)) return ruta;
+    ruta = dialogo_.ShowSave(ruta);
+    trabajo_.ExigeVisor();
+    return ruta;
 }
 
 void ComandosDeMenu::menuVisorNoEtiquetas_Click() {

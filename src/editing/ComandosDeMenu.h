@@ -38,6 +38,7 @@ class ComandosDeMenu {
     template <typename Accion>
     void Orden(const char* sufijo, Accion accion);
     void AlAnfitrion(void (Anfitrion::*evento)(std::int32_t));
+    std::string ArchivoElegido();
     bool EmpiezaConElemento(std::int32_t estado);
 
     Superficie& panel_;

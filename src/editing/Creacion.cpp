@@ -1,5 +1,6 @@
 #include "editing/Creacion.h"
 
+#include <algorithm>
 #include <limits>
 #include <string>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "drawing/Simbolos.h"
 #include "editing/Nombres.h"
 #include "editing/Trazados.h"
+#include "platform/Dialogos.h"
 #include "session/Ajustes.h"
 
 namespace zel {
@@ -30,6 +32,12 @@ PuntoXY Vertice(const Puntos& trazado, std::int32_t i) {
 }
 PuntoXY Ultimo(const Puntos& trazado) {
     return Vertice(trazado, trazado.Count());
+}
+
+// Also an element that has the code without its key: a host may give it one.
+bool TieneCodigo(const Elementos& elementos, std::int32_t codigo) {
+    return std::any_of(elementos.begin(), elementos.end(),
+                       [=](const auto& e) { return e->gfCodSIG() == codigo; });
 }
 
 std::shared_ptr<Puntos> Copia(const Puntos& trazado) {
@@ -95,7 +103,6 @@ void Creacion::PulsaDerecho(const std::shared_ptr<Elemento>& hallado) {
 
 void Creacion::Empieza(const std::shared_ptr<Elemento>& inicio) {
     trabajo_.elemSeleccionado = inicio;
-    trabajo_.sTextoSeleccion = "[" + std::to_string(inicio->gfCodSIG()) + "] " + inicio->Nombre();
     estados_.Estado(E_DIBUJANDO_CONDUCCION, 1);
 }
 
@@ -176,7 +183,7 @@ void Creacion::Crea(const Nuevo& nuevo) {
     // While a trace is drawn nothing is highlighted.
     if (trabajo_.iEstado == E_DIBUJANDO) pintado_.DesSombreaElemeSelecc(trabajo_.elemSeleccionado);
     trabajo_.elemSeleccionado = e;
-    trabajo_.sTextoSeleccion = e->Nombre();
+    trabajo_.recienCreado = e;
     documento_.bHabidoCambios = true;
     // The trace is the element's now: an event that comes while the host answers must not go on with it.
     estados_.BorrarVariablesEstado(false);
@@ -197,6 +204,12 @@ std::shared_ptr<Elemento> Creacion::Agrega(const Nuevo& nuevo) {
     const std::int32_t codigo = ++documento_.UltimoCodSIG;
     const std::string nombre = Add_Nombre(documento_, tipo, false, false);
     const std::shared_ptr<Elementos> elementos = documento_.colElementos;
+    if (TieneCodigo(*elementos, codigo)) {
+        dialogos().MsgBox("La colección de elementos ya contiene un elemento con codigo gfCodSIG " +
+                          std::to_string(codigo));
+        trabajo_.ExigeVisor();
+        return nullptr;
+    }
     auto e = elementos->Add(tipo, nombre, codigo, Add_KeyPant(documento_, tipo), nuevo.posicion.X,
                             nuevo.posicion.Y, nuevo.ElemIni, nuevo.ElemFin, nuevo.trazado, nuevo.trazado2,
                             nombre, nuevo.etiqueta.X, nuevo.etiqueta.Y);
@@ -236,6 +249,7 @@ void Creacion::Mueve(float X, float Y) {
 void Creacion::Retrocede() {
     std::shared_ptr<Puntos>& trazado = TrazadoQueCrece();
     const bool trasLaCentral = trabajo_.trazadoNuevo2 != nullptr;
+    const bool seguiaAlRaton = trabajo_.trazadoTemporal != nullptr;
     const std::int32_t puntos = trazado ? trazado->Count() : 0;
     if (puntos > 2) {
         trazado->Remove(puntos);
@@ -249,6 +263,9 @@ void Creacion::Retrocede() {
     }
     trabajo_.trazadoTemporal.reset();
     refresco_.PedirRefresco();
+    if (!seguiaAlRaton || trabajo_.iEstado != E_DIBUJANDO_CONDUCCION) return;
+    refresco_.RefrescarSiPendiente();
+    Mueve(trabajo_.ultimoRaton.X, trabajo_.ultimoRaton.Y);
 }
 
 std::shared_ptr<Elemento> Creacion::Busca(float X, float Y) {

@@ -117,12 +117,13 @@ void EntradaPanel::PulsaElDerecho(float X, float Y) {
         case E_SUBSISTEMA:
             return anfitrion_.LanzaMenu();
         case E_ZOOM:
+        case E_RECUADRO_ZOOM:
+        case E_MANO:
+            return estados_.Vuelve();
         case E_MOVER_ELEMENTO:
         case E_MOVER_ETIQUETA:
         case E_ESCOGER_PUNTO:
         case E_ESPERAR_SUBSISTEMA:
-        case E_RECUADRO_ZOOM:
-        case E_MANO:
             return estados_.Estado(E_PREPARADO, 1);
         case E_UNO_A_UNO:
             return gestos_.subsistema.Alterna(X, Y);
@@ -244,12 +245,12 @@ void EntradaPanel::ClicDeZoom(float X, float Y) {
         panel_.ScaleWidth(panel_.ScaleWidth() * factor);
         panel_.ScaleHeight(panel_.ScaleHeight() * factor);
     };
-    if (anfitrion_.BotonPulsado(Barra::Vista, "zoommas")) {
+    if (trabajo_.bZoomMas) {
         if (ancho > ANCHO_MAS_CERCANO * r)
             escala(0.5F);
         else
             avisos_.LanzaMensaje(AVISO_MAXIMO_ZOOM, 0, iRefrescar);
-    } else if (anfitrion_.BotonPulsado(Barra::Vista, "zoommenos")) {
+    } else {
         if (ancho < ANCHO_MAS_LEJANO * r)
             escala(2);
         else

@@ -11,10 +11,10 @@
 
 namespace zel {
 
-// The panel's mouse, in world units. Buttons: 1 left, 2 right, 4 middle; of a move, those held. Shift: 1
-// Shift
-// + 2 Ctrl + 4 Alt. What a button does is up to the state; the middle one acts as the left one, but for a
-// drag beside all elements in the ready state, which moves the view and leaves the selection.
+// The panel's mouse, in world units. Buttons: 1 left, 2 right, 4 middle; of a move, those held. Shift: 1 for
+// the key of that name, 2 Ctrl, 4 Alt, added up. What a button does is up to the state; the middle one acts
+// as the left one, but for a drag beside all elements in the ready state, which moves the view and leaves the
+// selection.
 class EntradaPanel {
   public:
     // What the mouse does, family by family.

@@ -73,7 +73,7 @@ void GestosDeVista::MueveBanda(float x, float y) {
 void GestosDeVista::E_18_AplicaZoom() try {
     const std::shared_ptr<Puntos> recuadro = trabajo_.trazadoTemporal;
     if (!recuadro || recuadro->Count() != 2) {
-        estados_.Estado(E_PREPARADO, 1);
+        estados_.Vuelve();
         return;
     }
     if (vista_.RelacionAspecto() == 0) dispone_();
@@ -83,7 +83,7 @@ void GestosDeVista::E_18_AplicaZoom() try {
     double w = std::abs(double{b->XPos()} - a->XPos());
     double h = std::abs(double{b->YPos()} - a->YPos());
     if (w == 0 && h == 0) {
-        estados_.Estado(E_PREPARADO, 1);
+        estados_.Vuelve();
         return;
     }
     if (w == 0) w = h * aspecto;
@@ -95,10 +95,8 @@ void GestosDeVista::E_18_AplicaZoom() try {
     const auto cx = static_cast<float>((double{a->XPos()} + b->XPos()) / 2);
     const auto cy = static_cast<float>((double{a->YPos()} + b->YPos()) / 2);
     refresco_.AnularRefresco();
-    if (!vista_.AjustarZoomUsuario(panel_, static_cast<float>(w * h / vista_.AreaActiva()), false, true, 2)) {
-        return;
-    }
-    estados_.Estado(E_PREPARADO, 1);
+    const auto zoom = static_cast<float>(w * h / vista_.AreaActiva());
+    if (vista_.AjustarZoomUsuario(panel_, zoom, false, true, 2)) estados_.Vuelve();
     vista_.MueveScroll(cx, cy, 1);
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". E_18_AplicaZoom (Esquema)");

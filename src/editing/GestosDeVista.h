@@ -23,9 +23,9 @@ class GestosDeVista {
     void EmpiezaBanda(float x, float y);
     void MueveBanda(float x, float y);
 
-    // Zooms to the rectangle between the two points of trazadoTemporal and puts its middle in the middle of
-    // the panel. Without two points, or with both the same, it only goes back to state 5; a zoom that is
-    // refused leaves the view and the state.
+    // Zooms to the rectangle between the two points of trazadoTemporal, puts its middle in the middle of the
+    // panel and goes back to the state before. Without two points, or with both the same, it only goes back;
+    // a zoom that is refused centres, and leaves the state.
     void E_18_AplicaZoom();
     // Moves the view by the way from the first to the third point of trazadoTemporal.
     void E_19_Aplica();

@@ -52,7 +52,8 @@ void Herramientas::Toolbar2_ButtonClick(std::string_view clave) try {
     anfitrion_.SueltaBotones(Barra::Vista);
     anfitrion_.PulsaBoton(Barra::Vista, clave);
     Ejecuta(clave);
-    estados_.RevisaBarraToolbar2(clave);
+    // Those that act at once pop up again; what stays pressed is the state's.
+    estados_.RevisaBarraToolbar2(trabajo_.bZoomMas ? "zoommas" : "zoommenos");
     refresco_.RefrescarSiPendiente();
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrToolbar2_ButtonClick (Esquema)");
@@ -61,6 +62,7 @@ void Herramientas::Toolbar2_ButtonClick(std::string_view clave) try {
 void Herramientas::Ejecuta(std::string_view clave) {
     if (clave == "zoommas" || clave == "zoommenos") {
         anfitrion_.SueltaBotones(Barra::Elementos);
+        trabajo_.bZoomMas = clave == "zoommas";
         estados_.Estado(E_ZOOM, 1);
     } else if (clave == "zoom") {
         gestos_.ZoomDelUsuario();

@@ -1,5 +1,7 @@
 #include "editing/MaquinaEstados.h"
 
+#include <utility>
+
 #include "drawing/Colores.h"
 #include "drawing/Cursores.h"
 #include "drawing/Etiquetas.h"
@@ -23,6 +25,11 @@ bool EsUnoDe(std::int32_t estado, Estados... estados) noexcept {
     return ((estado == estados) || ...);
 }
 
+// A state that comes between another one and its end.
+bool SeInterpone(std::int32_t estado) noexcept {
+    return EsUnoDe(estado, E_ZOOM, E_RECUADRO_ZOOM, E_MANO);
+}
+
 }  // namespace
 
 MaquinaEstados::MaquinaEstados(Superficie& panel, Documento& documento, Trabajo& trabajo, Refresco& refresco,
@@ -38,11 +45,18 @@ MaquinaEstados::MaquinaEstados(Superficie& panel, Documento& documento, Trabajo&
 void MaquinaEstados::Estado(std::int32_t nuevoEstado, std::int32_t bRefrescar) try {
     const std::int32_t viejo = trabajo_.iEstado;
     const EstadoDelVisor* fila = EstadoDe(nuevoEstado);
-    if (fila && fila->entra) (this->*fila->entra)(*fila, viejo, bRefrescar);
+    if (fila && fila->entra) {
+        if (SeInterpone(nuevoEstado))
+            Interrumpe(viejo);
+        else if (nuevoEstado != E_VOLVER)
+            trabajo_.interrumpido.reset();
+        (this->*fila->entra)(*fila, viejo, bRefrescar);
+    }
     // However a trace point's drag ends, its trace is searched whole again.
     if (viejo == E_ARRASTRAR_PUNTO && trabajo_.iEstado != viejo) BorrarInfoExtra();
     trabajo_.iEstadoAnterior = viejo;
     RevisaBarraToolbar1();
+    RevisaBarraToolbar2(trabajo_.bZoomMas ? "zoommas" : "zoommenos");
 } catch (...) {
     LanzaErrorVisor(trabajo_.iEstado, ". ErrEstado (Esquema)");
 }
@@ -76,15 +90,40 @@ void MaquinaEstados::Pon(Fila fila) {
 }
 
 void MaquinaEstados::EntraVolver(Fila, std::int32_t, std::int32_t) {
-    Estado(trabajo_.iEstadoAnterior, 1);
+    if (trabajo_.interrumpido)
+        Vuelve();
+    else
+        Estado(trabajo_.iEstadoAnterior, 1);
+}
+
+// What can go on later waits; a drag cannot, and is dropped whole.
+void MaquinaEstados::Interrumpe(std::int32_t viejo) {
+    if (SeInterpone(viejo)) return;
+    trabajo_.interrumpido.reset();
+    if (EsUnoDe(viejo, E_DIBUJANDO, E_DIBUJANDO_CONDUCCION, E_MOVER_ELEMENTO, E_MOVER_ETIQUETA,
+                E_ESCOGER_PUNTO, E_ESPERAR_SUBSISTEMA, E_SUBSISTEMA, E_IMAGEN_FONDO)) {
+        trabajo_.interrumpido =
+            Trabajo::EnMano{viejo, trabajo_.trazadoNuevo, trabajo_.trazadoNuevo2, trabajo_.puntoReferencia};
+        BorrarVariablesEstado(true);
+    } else if (viejo != E_PREPARADO) {
+        BorrarVariablesEstado(viejo != E_LAZO);
+        BorrarInfoExtra();
+    }
+    trabajo_.trazadoTemporal.reset();
+}
+
+void MaquinaEstados::Vuelve() {
+    reanuda_ = std::exchange(trabajo_.interrumpido, std::nullopt);
+    std::int32_t destino = reanuda_ ? reanuda_->iEstado : E_PREPARADO;
+    const bool deUnElemento = EsUnoDe(destino, E_MOVER_ELEMENTO, E_MOVER_ETIQUETA, E_ESCOGER_PUNTO);
+    if (deUnElemento && !trabajo_.elemSeleccionado) destino = E_PREPARADO;
+    Estado(destino, 1);
+    reanuda_.reset();
 }
 
 void MaquinaEstados::EntraZoom(Fila fila, std::int32_t viejo, std::int32_t bRefrescar) {
     Pon(fila);
-    if (anfitrion_.BotonPulsado(Barra::Vista, "zoommas"))
-        Cursor(CURSOR_ACERCAR);
-    else if (anfitrion_.BotonPulsado(Barra::Vista, "zoommenos"))
-        Cursor(CURSOR_ALEJAR);
+    Cursor(trabajo_.bZoomMas ? CURSOR_ACERCAR : CURSOR_ALEJAR);
     if (!EsUnoDe(viejo, E_ZOOM, E_DIBUJANDO, E_PREPARADO)) Pide(bRefrescar);
 }
 
@@ -98,9 +137,10 @@ void MaquinaEstados::EntraDibujando(Fila fila, std::int32_t viejo, std::int32_t 
 }
 
 void MaquinaEstados::EntraConduccion(Fila fila, std::int32_t, std::int32_t bRefrescar) {
-    trabajo_.trazadoNuevo = std::make_shared<Puntos>();
-    trabajo_.trazadoNuevo2.reset();
-    trabajo_.puntoReferencia.reset();
+    const bool sigue = reanuda_ && reanuda_->trazadoNuevo;
+    trabajo_.trazadoNuevo = sigue ? reanuda_->trazadoNuevo : std::make_shared<Puntos>();
+    trabajo_.trazadoNuevo2 = sigue ? reanuda_->trazadoNuevo2 : nullptr;
+    trabajo_.puntoReferencia = sigue ? reanuda_->puntoReferencia : nullptr;
     Pon(fila);
     Prompt(MensajeAlTrazar(trabajo_.iTipoHerramienta));
     Pide(bRefrescar);
@@ -130,6 +170,10 @@ void MaquinaEstados::PromptDePreparado() {
         Prompt(trabajo_.elemSeleccionado->Nombre());
     else
         Prompt(EstadoDe(E_PREPARADO)->mensaje);
+}
+
+void MaquinaEstados::RevisaPrompt() {
+    if (trabajo_.iEstado == E_PREPARADO) PromptDePreparado();
 }
 
 void MaquinaEstados::EntraMoverElemento(Fila fila, std::int32_t, std::int32_t bRefrescar) {
@@ -164,11 +208,17 @@ void MaquinaEstados::EntraLazo(Fila fila, std::int32_t, std::int32_t) {
 }
 
 void MaquinaEstados::EntraSubsistema(Fila fila, std::int32_t viejo, std::int32_t bRefrescar) {
-    if (EsUnoDe(viejo, E_LAZO, E_RECUADRO)) E_12_SeleccionarElementos(documento_, trabajo_);
-    if (viejo == E_RECUADRO) trabajo_.curvaSeleccion.reset();
-    if (viejo == E_UNO_A_UNO) {
-        E_12_QuitarConducciones(trabajo_);
-        E_15_AgregarConducciones(documento_, trabajo_);
+    try {
+        if (EsUnoDe(viejo, E_LAZO, E_RECUADRO)) E_12_SeleccionarElementos(documento_, trabajo_);
+        if (viejo == E_RECUADRO) trabajo_.curvaSeleccion.reset();
+        if (viejo == E_UNO_A_UNO) {
+            E_12_QuitarConducciones(trabajo_);
+            E_15_AgregarConducciones(documento_, trabajo_);
+        }
+    } catch (...) {
+        // Elements of one code cannot be chosen together; the gesture is over all the same.
+        Estado(E_PREPARADO, 1);
+        throw;
     }
     if (!trabajo_.elemSubsistema || trabajo_.elemSubsistema->Count() == 0) {
         Estado(E_PREPARADO, 1);
@@ -202,7 +252,7 @@ void MaquinaEstados::EntraArrastrarPunto(Fila fila, std::int32_t, std::int32_t) 
 
 void MaquinaEstados::EntraUnoAUno(Fila fila, std::int32_t viejo, std::int32_t bRefrescar) {
     BorrarVariablesEstado(true);
-    if (viejo == E_SUBSISTEMA) trabajo_.curvaSeleccion.reset();
+    trabajo_.curvaSeleccion.reset();
     if (viejo != E_SUBSISTEMA || !trabajo_.elemSubsistema) {
         trabajo_.elemSubsistema = std::make_shared<Elementos>();
         if (viejo == E_PREPARADO && trabajo_.elemSeleccionado) {
@@ -243,8 +293,6 @@ void MaquinaEstados::EntraBanda(Fila fila, std::int32_t viejo, std::int32_t bRef
     if (fila.numero == E_RECUADRO) return;
     trabajo_.trazadoTemporal.reset();
     if (!EsUnoDe(viejo, E_ZOOM, E_DIBUJANDO, E_PREPARADO)) Pide(bRefrescar);
-    RevisaBarraToolbar1();
-    RevisaBarraToolbar2(std::to_string(fila.numero));
 }
 
 void MaquinaEstados::EntraImagenFondo(Fila fila, std::int32_t, std::int32_t) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,17 +28,24 @@ class MaquinaEstados {
     // selected, a subsystem) becomes state 5.
     void Estado(std::int32_t nuevoEstado, std::int32_t bRefrescar);
 
+    // Leaves a state that has interrupted another one (the zooms, the hand) for that one, with what it had in
+    // hand; or for state 5.
+    void Vuelve();
+
     // Drops the objects of a gesture; the subsystem and its lasso too unless it is to be kept.
     void BorrarVariablesEstado(bool bConservarSubsistema);
     // Clears the temporary marks in every trace of the schematic, at the cost of what has changed since.
     void BorrarInfoExtra();
 
-    // Brings the bars into line with the state. Of the view tools, `sClave` tells which of the two zooms.
+    // Brings the bars into line with the state, which each change of state does. Of the view tools, `sClave`
+    // tells which of the two zooms.
     void RevisaBarraToolbar1();
     void RevisaBarraToolbar2(std::string_view sClave);
 
     // What the status bar says in state 5: the name of the selected element, or that there is none.
     void PromptDePreparado();
+    // After the host has changed what is selected, or its name.
+    void RevisaPrompt();
 
     // Where the mouse is, in panels 2 and 3 of the status bar; with bDepurarEstado, the state.
     void MuestraPosicion(float x, float y);
@@ -64,6 +72,7 @@ class MaquinaEstados {
     void EntraBanda(Fila fila, std::int32_t viejo, std::int32_t bRefrescar);
     void EntraImagenFondo(Fila fila, std::int32_t viejo, std::int32_t bRefrescar);
 
+    void Interrumpe(std::int32_t viejo);
     void Pon(Fila fila);
     void Pide(std::int32_t bRefrescar) noexcept;
     void Prompt(const std::string& texto);
@@ -77,7 +86,8 @@ class MaquinaEstados {
     Vista& vista_;
     Conexiones& conexiones_;
     Anfitrion& anfitrion_;
-    LectorDeCambios marcas_;  // whoever has not changed since it last read has none
+    std::optional<Trabajo::EnMano> reanuda_;  // while it goes back
+    LectorDeCambios marcas_;                  // whoever has not changed since it last read has none
 };
 
 }  // namespace zel

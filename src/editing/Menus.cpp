@@ -26,7 +26,7 @@ void PonVisor(AspectoDelMenu& menu, const SituacionDelMenu& s) {
 }
 
 void PonElemento(AspectoDelMenu& menu, const Elemento& e) {
-    const bool conSimbolo = TieneSimbolo(e.Tipo());
+    const bool conSimbolo = SeTrataComoSimbolo(e.Tipo());
     menu[menuContextualEditarElemento].texto = "Editar " + e.Nombre();
     menu[menuContextualColorIcono].visible = conSimbolo;
     menu[menuContextualColorLinea].visible = EsLineal(e.Tipo());
@@ -112,7 +112,7 @@ AspectoDelMenu AspectoDelMenuEn(const SituacionDelMenu& situacion) {
 }
 
 bool EtiquetaPegada(const Elemento& e) noexcept {
-    return !TieneSimbolo(e.Tipo()) && !e.EtiquetaMovida();
+    return !SeTrataComoSimbolo(e.Tipo()) && !e.EtiquetaMovida();
 }
 
 }  // namespace zel

@@ -31,7 +31,6 @@ void Seleccion::Deselecciona() {
 void Seleccion::DejaSinSeleccion() {
     Deselecciona();
     trabajo_.bElementoYaSeleccionado = false;
-    trabajo_.sTextoSeleccion.clear();
     estados_.PromptDePreparado();
 }
 
@@ -57,7 +56,7 @@ void Seleccion::Pulsa(float X, float Y) {
 void Seleccion::Toma(const std::shared_ptr<Elemento>& elem) {
     Deselecciona();
     trabajo_.elemSeleccionado = elem;
-    trabajo_.sTextoSeleccion = "[" + std::to_string(elem->gfCodSIG()) + "] " + elem->Nombre();
+    trabajo_.recienCreado.reset();
     pintado_.SombreaElemento(elem);
 }
 
@@ -94,7 +93,7 @@ void Seleccion::Sobrevuela(float X, float Y) {
     Cursor_Raton(panel_, arrastrable ? CURSOR_ARRASTRE : CURSOR_NORMAL, trabajo_.iTipoHerramienta,
                  trabajo_.iEstado);
     if (arrastrable)
-        anfitrion_.TextoEstado(1, trabajo_.sTextoSeleccion + " " + invitacion_);
+        anfitrion_.TextoEstado(1, trabajo_.sTextoSeleccion() + " " + invitacion_);
     else if (invitando_)
         estados_.PromptDePreparado();
     invitando_ = arrastrable;

@@ -41,7 +41,7 @@ constexpr std::int16_t CON_CTRL = 2;
 
 constexpr auto ConMayus = [](std::int16_t Shift) { return Shift == 1; };
 constexpr auto ConAlt = [](std::int16_t Shift) { return Shift == 4; };
-constexpr auto NiMayusNiAlt = [](std::int16_t Shift) { return !ConMayus(Shift) && !ConAlt(Shift); };
+constexpr auto SinCtrl = [](std::int16_t Shift) { return (Shift & CON_CTRL) == 0; };
 constexpr auto Sola = [](std::int16_t Shift) { return Shift == 0; };
 constexpr auto ComoSea = [](std::int16_t) { return true; };
 
@@ -86,7 +86,7 @@ const Teclado::Fila Teclado::FILAS[] = {
     {F10, ConAlt, Siempre, &Teclado::PideLineaSecundaria},
     {F11, ConAlt, Siempre, &Teclado::PideLineaSecundaria},
     {'Z', ConMayus, Siempre, &Teclado::EmpiezaRecuadroDeZoom},
-    {'M', NiMayusNiAlt, Siempre, &Teclado::TomaLaMano},
+    {'M', Sola, Siempre, &Teclado::TomaLaMano},
     {CUALQUIERA, ComoSea, EnUnoAUno, &Teclado::TerminaUnoAUno},
     {RETROCESO, ComoSea, Trazando, &Teclado::Retrocede},
     {ESCAPE, ComoSea, Siempre, &Teclado::Escapa},
@@ -95,7 +95,7 @@ const Teclado::Fila Teclado::FILAS[] = {
     {RE_PAG, Sola, EnPreparado, &Teclado::PasaPagina},
     {AV_PAG, ConMayus, EnPreparado, &Teclado::SigueElFlujo},
     {RE_PAG, ConMayus, EnPreparado, &Teclado::SigueElFlujo},
-    {'Z', ComoSea, SinLazo, &Teclado::MuestraTodo},
+    {'Z', SinCtrl, SinLazo, &Teclado::MuestraTodo},
     {NUMERICO_MAS, ComoSea, SinLazo, &Teclado::Acerca},
     {NUMERICO_MENOS, ComoSea, SinLazo, &Teclado::Aleja},
     {IZQUIERDA, Sola, Siempre, &Teclado::Desplaza},
@@ -156,6 +156,12 @@ void Teclado::OtraEntrada() {
     trabajo_.elemSubsistema = antes->elemSubsistema;
     trabajo_.curvaSeleccion = antes->curvaSeleccion;
     estados_.Estado(antes->iEstado, 1);
+    refresco_.RefrescarSiPendiente();
+}
+
+void Teclado::SinTeclado() {
+    if (trabajo_.iEstado != E_UNO_A_UNO) return;
+    TerminaUnoAUno(CTRL);
     refresco_.RefrescarSiPendiente();
 }
 
@@ -222,6 +228,10 @@ void Teclado::Escapa(std::int16_t) {
         case E_ZOOM:
             estados_.Estado(E_VOLVER, 1);
             break;
+        case E_RECUADRO_ZOOM:
+        case E_MANO:
+            estados_.Vuelve();
+            break;
         case E_DIBUJANDO_CONDUCCION:
             estados_.Estado(E_DIBUJANDO, 1);
             break;
@@ -241,8 +251,6 @@ void Teclado::Escapa(std::int16_t) {
         case E_LAZO:
         case E_SUBSISTEMA:
         case E_ARRASTRAR_ELEMENTO:
-        case E_RECUADRO_ZOOM:
-        case E_MANO:
         case E_PRUEBAS:
             estados_.Estado(E_PREPARADO, 1);
             break;

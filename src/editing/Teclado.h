@@ -25,6 +25,8 @@ class Teclado {
     // comes back, unless the panel has been pressed since.
     void OtraEntrada();
     void PanelPulsado() noexcept { antesDeCtrl_.reset(); }
+    // The keys go elsewhere: so does the release of Ctrl.
+    void SinTeclado();
 
   private:
     struct Fila;

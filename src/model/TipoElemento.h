@@ -44,6 +44,12 @@ constexpr bool TieneSimbolo(TipoElemento tipo) noexcept {
     return TipoConocido(tipo) && (tipo <= ctAcuifero || tipo >= ctCentralHidroelectrica);
 }
 
+// What may be sized and coloured as a symbol: by the number alone, so that a kind that nobody knows has
+// commands too.
+constexpr bool SeTrataComoSimbolo(TipoElemento tipo) noexcept {
+    return tipo < ctConduccion1 || tipo >= ctCentralHidroelectrica;
+}
+
 // The kind's name as the user reads it; empty for unknown kinds.
 std::string_view NombreDeTipo(TipoElemento tipo) noexcept;
 

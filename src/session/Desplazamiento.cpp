@@ -105,6 +105,8 @@ std::optional<std::string> Desplazamiento::ActualizaVista(std::int16_t modo) {
     if (enCurso_) return std::nullopt;
     const Guardia enCurso(enCurso_, true);
     const Guardia actualizando(bActualizandoScroll_, modo != 1, false);
+    // A region that has changed around a view at rest is no reason to move it.
+    const Guardia libre(vistaLibre_, vistaLibre_ || panel_.escala() == asentada_);
     const Refresco::Marcas marcas = refresco_.marcas();
     std::optional<std::string> aviso;
     try {
@@ -115,6 +117,7 @@ std::optional<std::string> Desplazamiento::ActualizaVista(std::int16_t modo) {
         const bool limitado = vista_.IncluyeLaVista();
         vista_.MuestraZoom(limitado);
         PonBarras(limitado);
+        asentada_ = panel_.escala();
         noCabe_ = false;
     } catch (...) {
         horizontal_.barra.Enabled(false);

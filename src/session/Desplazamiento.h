@@ -72,7 +72,8 @@ class Desplazamiento {
     bool enCurso_ = false;
     bool bActualizandoScroll_ = false;
     bool noCabe_ = false;
-    bool vistaLibre_ = false;  // the bars follow the view, and not it them
+    bool vistaLibre_ = false;        // the bars follow the view, and not it them
+    Superficie::Escala asentada_{};  // what the bars were last set to show
 };
 
 }  // namespace zel

@@ -87,6 +87,8 @@ void Pintado::Panel_Paint() {
         if (LlamadasARefresco_ == 0 && refresco_.bPintado()) {
             const Guardia llamadas(LlamadasARefresco_, 1);
             codSubrayado_ = 0;
+            enBlanco_ = false;
+            refresco_.AlDia();
             if (trabajo_.iEstado == E_DIBUJANDO_CONDUCCION) trabajo_.trazadoTemporal.reset();
             const Marcas marcas = MarcasDelTrabajo();
             auto deDibujo = Pinta(ConjuntoPintado(), &marcas);
@@ -100,7 +102,7 @@ void Pintado::Panel_Paint() {
 // again, and is not told.
 void Pintado::Avisa(const std::vector<std::string>& fallos) {
     if (aplaza_) {
-        pendientes_ = fallos;
+        if (pendientes_.empty()) pendientes_ = fallos;
         return;
     }
     if (avisando_) return;
@@ -124,13 +126,17 @@ void Pintado::UserControl_Paint() {
     refresco_.RefrescarSiPendiente();
 }
 
-void Pintado::PintaSinMarcas() {
+void Pintado::Borra() {
     codSubrayado_ = 0;
-    Avisa(Pinta(*documento_.colElementos, nullptr));
+    enBlanco_ = true;
+    refresco_.AnularRefresco();
+    refresco_.AlDia();
+    panel_.Cls();
 }
 
 // The underline stays on top: under a conduit's frame, which covers, it could not be erased any more.
 void Pintado::SombreaElemento(const std::shared_ptr<Elemento>& e) {
+    if (enBlanco_) return;
     AlternaSubrayado(codSubrayado_);
     zel::SombreaElemento(panel_, AjustesDe(trabajo_, documento_, vista_), e.get());
     AlternaSubrayado(codSubrayado_);
@@ -151,7 +157,7 @@ void Pintado::DesSombreaElemeSelecc(const std::shared_ptr<Elemento>& e) try {
 }
 
 void Pintado::SubrayaElem(std::int32_t codigo) try {
-    if (codigo == codSubrayado_) return;
+    if (codigo == codSubrayado_ || enBlanco_) return;
     AlternaSubrayado(codSubrayado_);
     codSubrayado_ = codigo;
     if (codigo == 0) return;

@@ -33,14 +33,14 @@ class Pintado {
     static bool TieneContornos(std::int32_t iEstado) noexcept;
     // There is one in hand: the zoom rectangle and the hand have theirs from the press on.
     static bool HayArrastre(const Trabajo& trabajo) noexcept;
-    // While it is set, boxes wait for DiPendientes: a platform in the middle of a resize, a show or a change
-    // of focus stands no box.
-    // Returns what it was.
+    // While it is set, boxes wait for DiPendientes: in the middle of a change of its own (a resize, a show, a
+    // scroll bar's, one of focus) the platform cannot have what a box lets happen. Returns what it was.
     bool AplazaAvisos(bool valor) noexcept { return std::exchange(aplaza_, valor); }
+    bool AvisosAplazados() const noexcept { return aplaza_; }
     bool HayPendientes() const noexcept { return !pendientes_.empty(); }
     void DiPendientes() { Avisa(std::exchange(pendientes_, {})); }
-    // Paints the schematic alone, without marks.
-    void PintaSinMarcas();
+    // Leaves the panel blank, with no marks, until the next paint.
+    void Borra();
 
     // What a paint shows: the subsystem while one is selected, else the schematic.
     const Elementos& ConjuntoPintado() const noexcept;
@@ -76,6 +76,7 @@ class Pintado {
     bool pintando_ = false;
     bool avisando_ = false;
     bool aplaza_ = false;
+    bool enBlanco_ = false;  // the panel shows nothing on which a mark could be
     std::vector<std::string> pendientes_;
     std::int32_t codSubrayado_ = 0;
 };

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,8 +31,28 @@ struct Trabajo {
     bool bBotonPulsadoSobreElemento = false;  // the left one, in state 5; until it is released
     bool bElementoYaSeleccionado = false;     // an element was selected when a button was last released
     bool bPrensaArrastra = false;             // the press may still begin a drag; it begins one at most
-    std::string sTextoSeleccion;              // of the selected element
     PuntoXY ultimoRaton{};                    // where the mouse was last
+
+    // The click-zoom in hand shows less of the world, and what there is larger; otherwise more of it.
+    bool bZoomMas = true;
+
+    // What a gesture had in hand when the zoom or the hand came between.
+    struct EnMano {
+        std::int32_t iEstado;
+        std::shared_ptr<Puntos> trazadoNuevo;
+        std::shared_ptr<Puntos> trazadoNuevo2;
+        std::shared_ptr<Punto> puntoReferencia;
+    };
+    std::optional<EnMano> interrumpido;
+
+    // The element created last: selected, it is told by its name alone.
+    std::weak_ptr<Elemento> recienCreado;
+    // How the selected element is told: "[12] Canal". Empty without one.
+    std::string sTextoSeleccion() const {
+        if (!elemSeleccionado) return {};
+        if (elemSeleccionado == recienCreado.lock()) return elemSeleccionado->Nombre();
+        return "[" + std::to_string(elemSeleccionado->gfCodSIG()) + "] " + elemSeleccionado->Nombre();
+    }
 
     // What the last search of the element under a point has found; see Localizador.
     std::int16_t iParteEncontrada = 0;

@@ -119,11 +119,11 @@ TEST_F(Creando, WhatMayNotBeConnectedIsToldAndChangesNothing) {
 TEST_F(Creando, PointsAreTakenBackOneByOne) {
     // By the key, or by a press of the right button.
     const std::tuple<TipoElemento, const char*, bool, const char*> filas[] = {
-        {ctConduccion1, "nvl", true, "3 20,24 20,40; 3 ; 2 ; "},
-        {ctConduccion1, "nvl", false, "3 20,24 20,40; 3 ; 2 ; "},
-        {ctAportacion, "nv", true, "3 ; 2 ; "},
+        {ctConduccion1, "nvl", true, "3 20,24 20,40t; 3 t; 2 ; "},
+        {ctConduccion1, "nvl", false, "3 20,24 20,40t; 3 t; 2 ; "},
+        {ctAportacion, "nv", true, "3 t; 2 ; "},
         {ctCentralHidroelectrica, "nMsl", true,
-         "3 24,20 66,20 | 70,24 70,40; 3 24,20 66,20 | ; 3 24,20 66,20; 3 ; 2 ; "}};
+         "3 24,20 66,20 | 70,24 70,40t; 3 24,20 66,20 | t; 3 24,20 66,20t; 3 t; 2 ; "}};
     for (const auto& [tipo, clics, tecla, pasos] : filas) {
         Empieza(tipo, clics);
         std::string dados;
@@ -184,7 +184,7 @@ TEST_F(Creando, TheHostMayInterfere) {
     Empieza(ctNudo, "v");
     EXPECT_EQ(anfitrion.Eventos(), "Seleccionado 21");
     Empieza(ctToma, "e");
-    EXPECT_EQ(trabajo.sTextoSeleccion, "[2] ");
+    EXPECT_EQ(trabajo.sTextoSeleccion(), "[2] ");
     trabajo.elemSeleccionado.reset();
     creacion.Mueve(70, 70);
     Pulsa("d");

@@ -23,7 +23,7 @@ TEST_F(Teclas, EachActsByTheStateAndItsCompanions) {
     // The state after it, and what the prompt and the host are told.
     const std::tuple<std::vector<std::int32_t>, std::int16_t, std::int16_t, std::int32_t, const char*>
         filas[] = {{{1, 3, 5, 15}, 'Z', 1, 18, "Seleccione la región que desea ampliar"},
-                   {{2, 5, 15}, 'M', 2, 19, "Arrastre el esquema con el cusor del ratón"},
+                   {{2, 5}, 'M', 0, 19, "Arrastre el esquema con el cusor del ratón"},
                    {{15}, 'C', 0, 5, "Preparado"},  // nothing was chosen one by one
                    {{3}, 8, 0, 2, ""},              // there is no point to take back
                    {{1}, 27, 0, 2, ""},             // entered from state 2
@@ -49,8 +49,9 @@ TEST_F(Teclas, EachActsByTheStateAndItsCompanions) {
                 << tecla << " in " << estado;
     }
     const std::tuple<std::int32_t, std::int16_t, std::int16_t> nada[] = {
-        {5, 'M', 1}, {5, 'M', 4},  {5, 17, 0},   {14, 27, 0},  {17, 27, 0},  {12, 46, 0}, {5, 'C', 2},
-        {3, 'C', 0}, {10, 'C', 0}, {11, 'C', 0}, {12, 'C', 0}, {17, 'C', 0}, {5, 102, 1}, {5, 'E', 0}};
+        {5, 'M', 1},  {5, 'M', 2},  {5, 'M', 4}, {5, 'Z', 2}, {5, 17, 0},   {14, 27, 0},
+        {17, 27, 0},  {12, 46, 0},  {5, 'C', 2}, {3, 'C', 0}, {10, 'C', 0}, {11, 'C', 0},
+        {12, 'C', 0}, {17, 'C', 0}, {5, 102, 1}, {5, 'E', 0}};
     for (const auto& [estado, tecla, mayus] : nada)
         EXPECT_EQ(prueba(estado, tecla, mayus), std::to_string(estado) + " ") << tecla;
 }
