@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <limits>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "file/GuardadoSeguro.h"
 #include "model/Mensajes.h"
@@ -13,6 +14,7 @@
 #include "platform/Guardia.h"
 #include "platform/Numeros.h"
 #include "platform/ReemplazoDeArchivo.h"
+#include "platform/qt/LectorDeImagen.h"
 
 namespace zel {
 
@@ -67,7 +69,8 @@ void Comandos::ArchivoAbrir(const std::string& archNombre) {
         panel_.Cls();
         trabajo_.elemSeleccionado.reset();
         Carga(archNombre, nueva);
-        imagen_.AplicaTextos(lector_->LeeImagenFondo());
+        imagen_.AplicaSeccion(lector_->LeeSeccionImagen());
+        avisoDeImagen_ = imagen_.Motivo();
     } catch (...) {
         // A call refused in the middle of a load leaves that one's progress in sight.
         if (vida->viva && !vida->cargando) {
@@ -113,7 +116,12 @@ void Comandos::Carga(const std::string& archNombre, const std::shared_ptr<Elemen
         }
     } suelta{*lector};
     const Guardia cargando(vida->cargando, true);
-    lector->Carga();
+    try {
+        lector->Carga();
+    } catch (...) {
+        if (vida->viva) motivo_ = lector->MotivoSinCargar();
+        throw;
+    }
     motivo_ = lector->MotivoSinLeer();
     problemas_ = lector->Registro();
     sinLeer_ = motivo_.empty() ? std::string() : RutaEntera(archNombre);
@@ -144,6 +152,22 @@ void Comandos::AceptaColeccion(std::shared_ptr<Elementos> nueva) {
     imagen_.CierraFrame();
 }
 
+void Comandos::ArchivoNuevo() {
+    ExigeLibre();
+    motivo_.clear();
+    problemas_.clear();
+    sinLeer_.clear();
+    avisoDeImagen_.clear();
+    trabajo_.elemSeleccionado.reset();
+    documento_.bHabidoCambios = false;
+    documento_.bMostrarLineasOcultas = true;
+    documento_.bMostrarEtiquetas = true;
+    AceptaColeccion(std::make_shared<Elementos>());
+    imagen_.AplicaSeccion(std::nullopt);
+    RecalculaNumeracion();
+    estados_.Estado(E_PREPARADO, 1);
+}
+
 void Comandos::PonColeccion(std::shared_ptr<Elementos> elementos) {
     ExigeLibre();
     if (!elementos) throw Fallo(91);
@@ -166,8 +190,8 @@ void Comandos::ArchivoGuardar(const std::string& archNombre) try {
     ExigeLibre();
     estados_.Estado(E_PREPARADO, 1);
     ApartaSinLeer(archNombre);
-    GuardaConSeguridad(archNombre, documento_.colElementos, imagen_.Guardada(),
-                       documento_.bMostrarLineasOcultas);
+    avisoDeImagen_ = GuardaConSeguridad(archNombre, documento_.colElementos, imagen_.Guardada(),
+                                        documento_.bMostrarLineasOcultas, EsImagen);
     documento_.bHabidoCambios = false;
     estados_.Estado(E_PREPARADO, 1);
     refresco_.PedirRefresco();
@@ -272,8 +296,10 @@ void Comandos::BorraConexiones(std::span<const std::int32_t> aivOrigen, bool tod
             borra(*e);
         return;
     }
-    for (const std::int32_t codigo : aivOrigen) {
-        if (const auto e = documento_.colElementos->ItemCodSIG(codigo)) borra(*e);
+    // By code, as they are set: the host may have changed one without its key.
+    const std::unordered_set<std::int32_t> origenes(aivOrigen.begin(), aivOrigen.end());
+    for (const auto& e : *documento_.colElementos) {
+        if (origenes.contains(e->gfCodSIG())) borra(*e);
     }
 }
 

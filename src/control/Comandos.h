@@ -25,6 +25,8 @@ class Comandos {
     ~Comandos() { Termina(); }
 
     void ArchivoAbrir(const std::string& archNombre);
+    // An empty schematic, with codes and numbers, switches and picture as in the beginning.
+    void ArchivoNuevo();
     void ArchivoGuardar(const std::string& archNombre);
     // Some elements as a schematic of their own, without the picture; the document stays as it is.
     void Exporta(const std::string& archNombre, const std::shared_ptr<Elementos>& elementos);
@@ -46,6 +48,8 @@ class Comandos {
     // missing or repeated in it (empty when nothing was).
     const std::string& MotivoSinLeer() const noexcept { return motivo_; }
     const std::string& ProblemasDeCarga() const noexcept { return problemas_; }
+    // Of the last schematic opened or saved: what has to be told of its picture; empty when nothing.
+    const std::string& AvisoDeImagen() const noexcept { return avisoDeImagen_; }
 
   private:
     // Outlives the control while a load that it began has not come back.
@@ -80,6 +84,7 @@ class Comandos {
     std::shared_ptr<lectorArchivo> lector_;
     std::string motivo_;
     std::string problemas_;
+    std::string avisoDeImagen_;
     std::string sinLeer_;  // the file that could not be read when it was last opened
     std::shared_ptr<Vida> vida_ = std::make_shared<Vida>();
 };

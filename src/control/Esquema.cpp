@@ -10,6 +10,7 @@
 #include "control/PartesDelEsquema.h"
 #include "file/Formato.h"
 #include "platform/Guardia.h"
+#include "platform/qt/Rutas.h"
 
 namespace zel {
 
@@ -84,8 +85,9 @@ qint32 Esquema::SeleccionaElemento(qint32 codigo, bool centrar, const char* sufi
         const auto e = p.documento.colElementos->ItemCodSIG(codigo);
         if (e) {
             p.trabajo.elemSeleccionado = e;
+            p.estados.RevisaPrompt();
             if (centrar) {
-                p.ajustaAlMostrar = false;
+                p.alMostrar = Partes::AlMostrar::Nada;
                 p.vista.MueveScroll(e->XPos(), e->YPos(), 2);
             }
         }
@@ -139,6 +141,7 @@ void Esquema::NombreElemento(const QString& valor) {
     Operacion(". Error en Property Let NombreElemento (Esquema)", [&](Partes& p) {
         SeleccionadoParaCambiar(". Esquema: NombreElemento Property Let. No hay elemento seleccionado")
             ->Nombre(valor.toStdString());
+        p.estados.RevisaPrompt();
         p.refresco.RefrescarSiPendiente();
     });
 }
@@ -232,18 +235,39 @@ void Esquema::SetElementos(std::shared_ptr<Elementos> elementos) {
 void Esquema::ArchivoAbrir(const QString& archNombre) {
     const std::shared_ptr<Partes> vivas = partes_;
     vivas->ExigeDisposicion();
-    vivas->ajustaAlMostrar = !vivas->seHaMostrado;
-    vivas->comandos.ArchivoAbrir(archNombre.toStdString());
+    if (!vivas->seHaMostrado) vivas->alMostrar = Partes::AlMostrar::Ajusta;
+    const struct Refresca {
+        Partes& p;
+        ~Refresca() { p.RefrescaCuandoHayaCalma(); }
+    } refresca{*vivas};
+    vivas->comandos.ArchivoAbrir(RutaDe(archNombre));
+}
+
+void Esquema::ArchivoNuevo() {
+    Llamada(". ErrArchivoNuevo (Esquema)", [&] {
+        Partes& p = *partes_;
+        p.ExigeDisposicion();
+        p.refresco.AnularRefresco();
+        p.comandos.ArchivoNuevo();
+        p.vista.DisponeDeNuevo(p.panel->AnchoMm(), p.panel->AltoMm());
+        if (!p.seHaMostrado) p.alMostrar = Partes::AlMostrar::Dispone;
+        p.refresco.PedirRefresco();
+        p.refresco.RefrescarSiPendiente();
+    });
 }
 
 void Esquema::ArchivoGuardar(const QString& archNombre) {
     const std::shared_ptr<Partes> vivas = partes_;
     vivas->pintado.SueltaAjenos();
-    vivas->comandos.ArchivoGuardar(archNombre.toStdString());
+    vivas->comandos.ArchivoGuardar(RutaDe(archNombre));
 }
 
 QString Esquema::MotivoSinLeer() const {
     return QString::fromStdString(partes_->comandos.MotivoSinLeer());
+}
+
+QString Esquema::AvisoDeImagen() const {
+    return QString::fromStdString(partes_->comandos.AvisoDeImagen());
 }
 
 QString Esquema::ProblemasDeCarga() const {
@@ -292,7 +316,7 @@ void Esquema::ResizeGrafo() {
     const std::shared_ptr<Partes> vivas = partes_;
     Partes& p = *vivas;
     p.ExigeDisposicion();
-    p.ajustaAlMostrar = !p.seHaMostrado;
+    if (!p.seHaMostrado) p.alMostrar = Partes::AlMostrar::Ajusta;
     p.vista.AjustarImagen(p.panel->lienzo(), 1);
 }
 
@@ -312,10 +336,13 @@ void Esquema::AjustarAVentana(const std::optional<Variante>& fLeft, const std::o
         };
         const float izquierda = lado(fLeft, 0);
         const float arriba = lado(fTop, 0);
-        const float ancho = lado(fWidth, std::abs(std::abs(izquierda) - std::abs(p.Mm(contenedor->width()))));
-        const float alto = lado(fHeight, std::abs(std::abs(arriba) - std::abs(p.Mm(contenedor->height()))));
-        setGeometry(p.PixelesDeMm(izquierda), p.PixelesDeMm(arriba), p.PixelesDeMm(ancho),
-                    p.PixelesDeMm(alto));
+        const auto falta = [&](float desde, int hasta, Qt::Orientation eje) {
+            return std::abs(std::abs(desde) - std::abs(p.Mm(hasta, eje)));
+        };
+        const float ancho = lado(fWidth, falta(izquierda, contenedor->width(), Qt::Horizontal));
+        const float alto = lado(fHeight, falta(arriba, contenedor->height(), Qt::Vertical));
+        setGeometry(p.PixelesDeMm(izquierda, Qt::Horizontal), p.PixelesDeMm(arriba, Qt::Vertical),
+                    p.PixelesDeMm(ancho, Qt::Horizontal), p.PixelesDeMm(alto, Qt::Vertical));
         p.UserControl_Resize();
         if (const auto aviso = p.desplazamiento.ActualizaVista(2)) dialogos().MsgBox(*aviso);
         p.trabajo.ExigeVisor();
@@ -329,7 +356,7 @@ bool Esquema::CambiaZoom(double factor) {
     const std::shared_ptr<Partes> vivas = partes_;
     Partes& p = *vivas;
     p.ExigeDisposicion();
-    p.ajustaAlMostrar = false;
+    p.alMostrar = Partes::AlMostrar::Nada;
     return p.vista.AjustarZoomUsuario(p.panel->lienzo(), static_cast<float>(p.vista.Zoom() * factor), true,
                                       true, 1);
 }
@@ -367,12 +394,12 @@ void Esquema::showEvent(QShowEvent* evento) {
 }
 
 QSize Esquema::sizeHint() const {
-    return {partes_->PixelesDeMm(200), partes_->PixelesDeMm(140)};
+    return {partes_->PixelesDeMm(200, Qt::Horizontal), partes_->PixelesDeMm(140, Qt::Vertical)};
 }
 
 QSize Esquema::minimumSizeHint() const {
-    return {partes_->PixelesDeMm(ANCHO_MINIMO) + 2 * frameWidth() + 1,
-            partes_->PixelesDeMm(ALTO_MINIMO) + 2 * frameWidth() + 1};
+    return {partes_->PixelesDeMm(ANCHO_MINIMO, Qt::Horizontal) + 2 * frameWidth() + 1,
+            partes_->PixelesDeMm(ALTO_MINIMO, Qt::Vertical) + 2 * frameWidth() + 1};
 }
 
 }  // namespace zel

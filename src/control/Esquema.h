@@ -95,21 +95,32 @@ class Esquema : public QFrame {
     // as an empty schematic: MotivoSinLeer tells why. Data out of order (a repeated code, a flag that is
     // none) raise, and the earlier schematic stays.
     void ArchivoAbrir(const QString& archNombre);
-    // Saves in one step: the file is all of the old or all of the new. A file that could not be read when it
-    // was last opened is kept beside it, as NAME.bak.
+    // Saves in one step: the file is all of the old or all of the new. What would not open again (codes that
+    // are repeated, traces of less than two points, more than 32767 elements...) raises, and names the
+    // elements. A background picture from another folder is copied beside the file, under a name that is free
+    // or its own. A file that could not be read when it was last opened is kept beside it, as NAME.bak.
     void ArchivoGuardar(const QString& archNombre);
-    // Of the last ArchivoAbrir: why its file could not be read, empty when it could; and what was missing or
-    // repeated in it, also written to "ErroresCarga.log" in the current directory.
+    // An empty schematic in the view, and with the switches, of a new control.
+    void ArchivoNuevo();
+    // Of the last ArchivoAbrir: why its file could not be read, or which code two of its elements have, empty
+    // when it could; and what was missing or repeated in it, also written to "ErroresCarga.log" in the
+    // current directory.
     QString MotivoSinLeer() const;
     QString ProblemasDeCarga() const;
+    // Of the last ArchivoAbrir or ArchivoGuardar: why the background picture is not shown, or could not be
+    // copied; empty when there is nothing to tell. What the file says of a picture that is not shown is kept
+    // when it is saved.
+    QString AvisoDeImagen() const;
 
     // Stores a copy of an element of the host, under its code, and counts it as the newest. With the
-    // collection unchanged it raises the platform's failure itself (zel::Fallo): 457 a code that is taken, 91
-    // no element, 9 a kind outside 0 to 15, 6 no number left.
+    // collection unchanged it raises what the failing step does, without a text of its own: the collection's
+    // error for a code that is taken; the platform's failure (zel::Fallo) 91 for no element, 9 for a kind
+    // outside 0 to 15, 6 when no number is left.
     void AddElemento(const std::shared_ptr<Elemento>& elem);
     // Numbers on the screen, or names, for many elements at once: entry i of the second list for the code in
     // entry i of the first. The last entry is not applied. False when one could not be: those before it are.
-    // They do not repaint and never raise; more than 32768 entries are refused whole.
+    // They never raise, and the repaint comes when the events in waiting are through; more than 32768 entries
+    // are refused whole.
     bool ModificaVarios_NumUser(const QList<qint32>& aiCodSig, const QList<qint32>& aiNums);
     bool ModificaVarios_Nombres(const QList<qint32>& aiCodGIS, const QStringList& asNoms);
     // Secondary connections: the first and the second entry of an origin give its two. Before, those of the
@@ -127,7 +138,8 @@ class Esquema : public QFrame {
     // --- View -----------------------------------------------------------------------------------------
 
     // Fits the whole schematic into the panel. Before the control is first shown it has no final size: the
-    // fit is then done again when it is.
+    // fit is then done again when it is. A view that nobody has chosen by then begins anew, at 100 %. The
+    // calls of the view leave what is under way as it is, as the wheel does.
     void ResizeGrafo();
     // Places and sizes the control in its parent, in the parent's millimetres; what is missing is taken so
     // that the control reaches to the parent's right and bottom edges. Raises without a parent.
@@ -213,7 +225,9 @@ class Esquema : public QFrame {
     // A press raises MouseDown, then ElementoSeleccionado when it selects an element or completes a new one,
     // and then CreacionNuevoElemento. A release raises ElementoMovido or ElementoModificado when it ends a
     // drag, then Click. Instead of the second press of a double click come DblClick and EditarElemento.
-    // bHabidoCambios and the state of the control are those after the change already.
+    // The state of the control is that after the change already, and so is bHabidoCambios, but where an
+    // element has been given a size, a label's size or a colour, or its label has been put back: there it is
+    // set next.
     void Click();
     void DblClick();
     void KeyDown(qint16& KeyCode, qint16& Shift);
@@ -249,6 +263,8 @@ class Esquema : public QFrame {
     template <typename Accion>
     void PonPropiedad(const char* sufijo, Accion accion);
     std::shared_ptr<Elemento> SeleccionadoParaCambiar(const char* sinSeleccion) const;
+    void PonModoDeEscala(qint16 valor);
+    QSizeF Resolucion() const;
     template <typename Accion>
     void PonFuentePanel(const char* sufijo, Accion accion);
     qint32 SeleccionaElemento(qint32 codigo, bool centrar, const char* sufijo);

@@ -36,6 +36,11 @@ float Posicion(float valor) {
 
 }  // namespace
 
+// Pixels per inch in each direction.
+QSizeF Esquema::Resolucion() const {
+    return QSizeF(logicalDpiX(), logicalDpiY());
+}
+
 qint16 Esquema::BorderStyle() const {
     return Llamada(". ErrGetBorderStyle (Esquema)",
                    [&]() -> qint16 { return frameShape() == QFrame::NoFrame ? 0 : 1; });
@@ -99,7 +104,7 @@ float Esquema::ScaleLeft() const {
 }
 void Esquema::ScaleLeft(float valor) {
     PonPropiedad(". ErrLetScaleLeft (Esquema)", [&](Lienzo& l) {
-        partes_->ajustaAlMostrar = false;
+        partes_->alMostrar = Partes::AlMostrar::Nada;
         l.ScaleLeft(Posicion(valor));
     });
 }
@@ -108,7 +113,7 @@ float Esquema::ScaleTop() const {
 }
 void Esquema::ScaleTop(float valor) {
     PonPropiedad(". ErrLetScaleTop (Esquema)", [&](Lienzo& l) {
-        partes_->ajustaAlMostrar = false;
+        partes_->alMostrar = Partes::AlMostrar::Nada;
         l.ScaleTop(Posicion(valor));
     });
 }
@@ -117,7 +122,7 @@ float Esquema::ScaleWidth() const {
 }
 void Esquema::ScaleWidth(float valor) {
     PonPropiedad(". ErrLetScaleWidth (Esquema)", [&](Lienzo& l) {
-        partes_->ajustaAlMostrar = false;
+        partes_->alMostrar = Partes::AlMostrar::Nada;
         l.ScaleWidth(std::abs(LadoDeEscala(valor)));
     });
 }
@@ -133,29 +138,33 @@ qint16 Esquema::ScaleMode() const {
     return Llamada(". ScaleMode (Esquema)", [&]() -> qint16 {
         const Superficie::Escala escala = partes_->panel->lienzo().escala();
         const QSize tamanyo = partes_->panel->size();
-        return escala == EscalaDelModo(partes_->modoDeEscala, tamanyo, logicalDpiX()) ? partes_->modoDeEscala
-                                                                                      : MODO_PROPIO;
+        return escala == EscalaDelModo(partes_->modoDeEscala, tamanyo, Resolucion()) ? partes_->modoDeEscala
+                                                                                     : MODO_PROPIO;
     });
 }
 
+void Esquema::PonModoDeEscala(qint16 valor) {
+    if (valor < MODO_PROPIO || valor > MODO_CENTIMETROS) throw Fallo(5);
+    partes_->modoDeEscala = valor;
+    if (valor == MODO_PROPIO) return;
+    partes_->alMostrar = Partes::AlMostrar::Nada;
+    const Superficie::Escala e = EscalaDelModo(valor, partes_->panel->size(), Resolucion());
+    Lienzo& l = partes_->panel->lienzo();
+    l.ScaleLeft(e.Left);
+    l.ScaleTop(e.Top);
+    l.ScaleWidth(e.Width);
+    l.ScaleHeight(e.Height);
+}
+
 void Esquema::ScaleMode(qint16 valor) {
-    PonPropiedad(". ErrLetScaleMode (Esquema)", [&](Lienzo& l) {
-        if (valor < MODO_PROPIO || valor > MODO_CENTIMETROS) throw Fallo(5);
-        partes_->modoDeEscala = valor;
-        if (valor == MODO_PROPIO) return;
-        const Superficie::Escala e = EscalaDelModo(valor, partes_->panel->size(), logicalDpiX());
-        l.ScaleLeft(e.Left);
-        l.ScaleTop(e.Top);
-        l.ScaleWidth(e.Width);
-        l.ScaleHeight(e.Height);
-    });
+    PonPropiedad(". ErrLetScaleMode (Esquema)", [&](Lienzo&) { PonModoDeEscala(valor); });
 }
 
 void Esquema::Scale_(const std::optional<Variante>& x1, const std::optional<Variante>& y1,
                      const std::optional<Variante>& x2, const std::optional<Variante>& y2) {
     PonPropiedad(". ErrScale_ (Esquema)", [&](Lienzo& l) {
         if (!x1 && !y1 && !x2 && !y2) {
-            ScaleMode(MODO_TWIPS);
+            PonModoDeEscala(MODO_TWIPS);
             return;
         }
         if (!x1 || !y1 || !x2 || !y2) throw Fallo(5);
@@ -163,7 +172,7 @@ void Esquema::Scale_(const std::optional<Variante>& x1, const std::optional<Vari
         const float arriba = Posicion(y1->Real32());
         const float ancho = LadoDeEscala(x2->Real32() - izquierda);
         const float alto = LadoDeEscala(y2->Real32() - arriba);
-        partes_->ajustaAlMostrar = false;
+        partes_->alMostrar = Partes::AlMostrar::Nada;
         l.ScaleLeft(izquierda);
         l.ScaleTop(arriba);
         l.ScaleWidth(std::abs(ancho));
@@ -176,7 +185,7 @@ float Esquema::ScaleX(float valor, const std::optional<Variante>& FromScale,
                       const std::optional<Variante>& ToScale) {
     return Llamada(". ErrScaleX (Esquema)", [&] {
         const double propia = double{partes_->panel->lienzo().ScaleWidth()} / partes_->panel->width();
-        return ConvierteLongitud(valor, FromScale, ToScale, false, logicalDpiX(), propia, ScaleMode());
+        return ConvierteLongitud(valor, FromScale, ToScale, false, Resolucion(), propia, ScaleMode());
     });
 }
 
@@ -184,7 +193,7 @@ float Esquema::ScaleY(float valor, const std::optional<Variante>& FromScale,
                       const std::optional<Variante>& ToScale) {
     return Llamada(". ErrScaleY (Esquema)", [&] {
         const double propia = double{partes_->panel->lienzo().ScaleHeight()} / partes_->panel->height();
-        return ConvierteLongitud(valor, FromScale, ToScale, true, logicalDpiX(), propia, ScaleMode());
+        return ConvierteLongitud(valor, FromScale, ToScale, true, Resolucion(), propia, ScaleMode());
     });
 }
 
@@ -262,10 +271,7 @@ void Esquema::Refresh() {
 }
 
 void Esquema::Cls() {
-    Operacion(". ErrCls (Esquema)", [](Partes& p) {
-        p.refresco.AnularRefresco();
-        p.panel->lienzo().Cls();
-    });
+    Operacion(". ErrCls (Esquema)", [](Partes& p) { p.pintado.Borra(); });
 }
 
 }  // namespace zel

@@ -1,7 +1,6 @@
 #include "control/Exportacion.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QFileInfo>
 #include <QPageLayout>
 #include <QPdfWriter>
@@ -12,10 +11,12 @@
 #include "drawing/Etiquetas.h"
 #include "drawing/Pintor.h"
 #include "model/TamanyoUnidad.h"
+#include "platform/Archivos.h"
 #include "platform/Fallo.h"
 #include "platform/ReemplazoDeArchivo.h"
 #include "platform/qt/Lienzo.h"
 #include "platform/qt/LienzoVectorial.h"
+#include "platform/qt/Rutas.h"
 #include "session/Extension.h"
 
 namespace zel {
@@ -27,6 +28,7 @@ namespace {
 constexpr double PIXELES_POR_UNIDAD = PPP_NORMAL / 25.4;
 constexpr double PUNTOS_POR_UNIDAD = 72 / 25.4;
 constexpr float PUNTOS_DEL_TEXTO = 8;
+constexpr float PASO_DE_PARRILLA = 1;  // half a percent of a control's usual width
 
 // Pixels. Qt writes six digits of a coordinate, a tenth of a pixel at the far side.
 constexpr double LADO_MAXIMO_DE_SVG = 100000;
@@ -41,6 +43,7 @@ constexpr double ALTO_POR_ANCHO_MAXIMO = 4;
 AjustesDibujo AjustesNominales(const Superficie& lienzo, bool bMostrarLineasOcultas) {
     AjustesDibujo ajustes;
     ajustes.EscalaDibujo = PUNTOS_DEL_TEXTO * lienzo.ScaleWidth();
+    ajustes.pasoDeParrilla = PASO_DE_PARRILLA;
     ajustes.bMostrarLineasOcultas = bMostrarLineasOcultas;
     return ajustes;
 }
@@ -199,7 +202,7 @@ QStringList ExportaEsquema(const QString& archivo, const Elementos& elementos, b
     const auto formato = FormatoDeArchivo(archivo);
     if (!formato) throw Fallo(5);
     // Before the drawing, which may take its time.
-    ReemplazoDeArchivo reemplazo(archivo.toStdString());
+    ReemplazoDeArchivo reemplazo(RutaDe(archivo));
     QStringList fallos;
     QByteArray datos;
     if (*formato == FormatoDeDibujo::Png) {
@@ -212,11 +215,7 @@ QStringList ExportaEsquema(const QString& archivo, const Elementos& elementos, b
     } else {
         datos = PdfDeEsquema(elementos, bMostrarLineasOcultas, titulo, fallos);
     }
-    QFile temporal(QString::fromStdString(reemplazo.Temporal()));
-    if (!temporal.open(QIODevice::WriteOnly) || temporal.write(datos) != datos.size() || !temporal.flush()) {
-        throw Fallo(57, temporal.errorString().toStdString());
-    }
-    temporal.close();
+    EscribeArchivo(reemplazo.Temporal(), {datos.data(), static_cast<std::size_t>(datos.size())});
     reemplazo.Confirma();
     return fallos;
 }

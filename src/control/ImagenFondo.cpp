@@ -1,10 +1,8 @@
 #include "control/ImagenFondo.h"
 
 #include <QCheckBox>
-#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -13,7 +11,7 @@
 
 #include "model/modErrorHandling.h"
 #include "platform/Numeros.h"
-#include "platform/qt/ImagenQt.h"
+#include "platform/qt/LectorDeImagen.h"
 
 namespace zel {
 
@@ -27,26 +25,14 @@ constexpr std::size_t CAJA_PROPORCION = 3;
 constexpr double PROPORCION_MINIMA = 0.01;
 constexpr double PROPORCION_MAXIMA = 10.01;
 constexpr double ANCHO_MINIMO_DE_FONDO = 1;
-constexpr int MEGAS_DE_IMAGEN = 1024;
 
-// Scanned maps are larger than what the reader takes by itself.
-class LimiteDeImagen {
-  public:
-    LimiteDeImagen() : anterior_(QImageReader::allocationLimit()) {
-        QImageReader::setAllocationLimit(MEGAS_DE_IMAGEN);
-    }
-    LimiteDeImagen(const LimiteDeImagen&) = delete;
-    LimiteDeImagen& operator=(const LimiteDeImagen&) = delete;
-    ~LimiteDeImagen() { QImageReader::setAllocationLimit(anterior_); }
-
-  private:
-    int anterior_;
-};
-
-double NumeroDe(std::string texto) {
+// Nothing for a number beyond all measure.
+std::optional<double> NumeroDe(std::string texto) try {
     const std::size_t coma = texto.find(',');
     if (coma != std::string::npos) texto[coma] = '.';
     return NumeroInicial(texto);
+} catch (const Fallo&) {
+    return std::nullopt;
 }
 
 }  // namespace
@@ -102,7 +88,7 @@ void ImagenFondo::ConstruyeFrame(QWidget* visor) {
     frame_->adjustSize();
 }
 
-double ImagenFondo::Caja(std::size_t i) const {
+std::optional<double> ImagenFondo::Caja(std::size_t i) const {
     return NumeroDe(otbImagenFondo_[i]->text().toStdString());
 }
 
@@ -117,22 +103,24 @@ void ImagenFondo::EscribeCajas() {
     Caja(CAJA_PROPORCION, ImagenPropYX_);
 }
 
-bool ImagenFondo::Carga(const std::string& ruta) {
-    const LimiteDeImagen limite;
-    QImageReader lector(QString::fromStdString(ruta));
-    lector.setAutoTransform(true);
-    lector.setDecideFormatFromContent(true);
-    QImage imagen = lector.read();
-    if (imagen.isNull()) {
+std::string ImagenFondo::Carga(const std::string& ruta) {
+    ImagenLeida leida = LeeImagen(ruta);
+    if (!leida.imagen) {
         Pintar_LinkError();
-        return false;
+        return "\"" + ruta + "\": " + leida.motivo;
     }
-    Pintar_ = std::make_shared<ImagenQt>(std::move(imagen));
-    return true;
+    Pintar_ = std::move(leida.imagen);
+    bHayImagenFondo_ = true;
+    return {};
 }
 
 void ImagenFondo::Pintar_LinkError() noexcept {
     bHayImagenFondo_ = false;
+}
+
+void ImagenFondo::OlvidaLaDelArchivo() noexcept {
+    delArchivo_.reset();
+    motivo_.clear();
 }
 
 // The picture as wide in the world as it is on the screen, and its own proportion.
@@ -150,15 +138,16 @@ bool ImagenFondo::Elige() {
     const std::string ruta = dialogo_.ShowOpen();
     trabajo_.ExigeVisor();
     if (ruta.empty()) return false;
-    if (QFileInfo::exists(QString::fromStdString(ruta)) && Carga(ruta)) {
+    const std::string motivo = Carga(ruta);
+    if (motivo.empty()) {
         sArchivoImagenFondo_ = ruta;
-        bHayImagenFondo_ = true;
+        OlvidaLaDelArchivo();
         documento_.bHabidoCambios = true;
         PonTamanyoInicial();
         return true;
     }
-    dialogos().MsgBox("No se puede leer la imagen \"" + ruta +
-                      "\". Escoja un archivo de imagen BMP, JPEG o PNG.");
+    dialogos().MsgBox("No se puede leer la imagen " + motivo +
+                      ". Escoja un archivo de imagen BMP, JPEG o PNG.");
     trabajo_.ExigeVisor();
     return false;
 }
@@ -177,6 +166,7 @@ void ImagenFondo::Edita() {
 void ImagenFondo::Quita() try {
     refresco_.AnularRefresco();
     bHayImagenFondo_ = false;
+    OlvidaLaDelArchivo();
     CierraFrame();
     estados_.Estado(E_PREPARADO, 1);
     documento_.bHabidoCambios = true;
@@ -186,9 +176,10 @@ void ImagenFondo::Quita() try {
 }
 
 bool ImagenFondo::CajasValidas() {
-    const double proporcion = Caja(CAJA_PROPORCION);
-    const bool validas = std::abs(proporcion) >= PROPORCION_MINIMA &&
-                         std::abs(proporcion) <= PROPORCION_MAXIMA && Caja(CAJA_LX) >= ANCHO_MINIMO_DE_FONDO;
+    bool validas = Caja(CAJA_X0) && Caja(CAJA_Y0);
+    const double proporcion = std::abs(Caja(CAJA_PROPORCION).value_or(0));
+    validas = validas && proporcion >= PROPORCION_MINIMA && proporcion <= PROPORCION_MAXIMA &&
+              Caja(CAJA_LX).value_or(0) >= ANCHO_MINIMO_DE_FONDO;
     if (!validas) EscribeCajas();
     return validas;
 }
@@ -199,10 +190,10 @@ void ImagenFondo::cmdImagenFondoVer_Click() {
         return std::tuple(ImagenX0_, ImagenY0_, ImagenLX_, ImagenPropYX_, bOcultarImagenFondo_);
     };
     const auto antes = situacion();
-    ImagenX0_ = Caja(CAJA_X0);
-    ImagenY0_ = Caja(CAJA_Y0);
-    ImagenLX_ = Caja(CAJA_LX);
-    ImagenPropYX_ = Caja(CAJA_PROPORCION);
+    ImagenX0_ = *Caja(CAJA_X0);
+    ImagenY0_ = *Caja(CAJA_Y0);
+    ImagenLX_ = *Caja(CAJA_LX);
+    ImagenPropYX_ = *Caja(CAJA_PROPORCION);
     EscribeCajas();
     ImagenLY_ = -ImagenPropYX_ * ImagenLX_;
     bOcultarImagenFondo_ = Check1OcultarImagenFondo_->isChecked();
@@ -224,33 +215,36 @@ void ImagenFondo::CierraFrame() {
     frame_->hide();
     frame_->setEnabled(false);
     anfitrion_.BarraElementosActiva(true);
+    // Without its frame the state would have no way out.
+    if (trabajo_.iEstado == E_IMAGEN_FONDO) estados_.Estado(E_PREPARADO, 1);
 }
 
-void ImagenFondo::AplicaTextos(const std::optional<Coleccion<std::string>>& textos) {
+void ImagenFondo::AplicaSeccion(const std::optional<SeccionImagen>& seccion) {
     bHayImagenFondo_ = false;
-    const std::string* archivo = textos ? textos->Busca("Archivo") : nullptr;
-    if (!archivo || archivo->empty()) return;
-    try {
-        const auto texto = [&](const char* clave) { return textos->Item(clave); };
-        sArchivoImagenFondo_ = *archivo;
-        ImagenX0_ = NumeroDe(texto("X0"));
-        Caja(CAJA_X0, ImagenX0_);
-        ImagenY0_ = NumeroDe(texto("Y0"));
-        Caja(CAJA_Y0, ImagenY0_);
-        ImagenLX_ = NumeroDe(texto("LX"));
-        Caja(CAJA_LX, ImagenLX_);
-        ImagenPropYX_ = NumeroDe(texto("LY"));
-        Caja(CAJA_PROPORCION, ImagenPropYX_);
+    OlvidaLaDelArchivo();
+    if (!seccion) return;
+    if (const auto& imagen = seccion->imagen) {
+        sArchivoImagenFondo_ = imagen->Archivo;
+        ImagenX0_ = imagen->X0;
+        ImagenY0_ = imagen->Y0;
+        ImagenLX_ = imagen->LX;
+        ImagenPropYX_ = imagen->LY;
         ImagenLY_ = -ImagenPropYX_ * ImagenLX_;
-        bOcultarImagenFondo_ = Variante(texto("Oculta")).Booleano();
+        EscribeCajas();
+        bOcultarImagenFondo_ = imagen->Oculta;
         Check1OcultarImagenFondo_->setChecked(bOcultarImagenFondo_);
-        bHayImagenFondo_ = Carga(sArchivoImagenFondo_);
-    } catch (...) {
-        Pintar_LinkError();
+        const std::string motivo = Carga(sArchivoImagenFondo_);
+        if (motivo.empty()) return;
+        motivo_ = "No se muestra la imagen de fondo " + motivo;
+    } else {
+        motivo_ = seccion->motivo;
     }
+    delArchivo_ = seccion;
+    delArchivo_->imagen.reset();
 }
 
-std::optional<ImagenGuardada> ImagenFondo::Guardada() const {
+ImagenQueGuardar ImagenFondo::Guardada() const {
+    if (delArchivo_) return *delArchivo_;
     if (!bHayImagenFondo_) return std::nullopt;
     return ImagenGuardada{sArchivoImagenFondo_, ImagenX0_,           ImagenY0_, ImagenLX_,
                           ImagenPropYX_,        bOcultarImagenFondo_};

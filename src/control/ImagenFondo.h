@@ -9,7 +9,6 @@
 #include "drawing/Pintor.h"
 #include "editing/MaquinaEstados.h"
 #include "file/GuardadoSeguro.h"
-#include "platform/Coleccion.h"
 #include "platform/DialogoComun.h"
 
 class QCheckBox;
@@ -20,7 +19,7 @@ namespace zel {
 // The picture under the schematic, and the frame in which the user places it.
 class ImagenFondo {
   public:
-    // `ver` repaints the schematic with the picture and without marks.
+    // `ver` repaints the panel, picture included.
     ImagenFondo(QWidget* visor, Documento& documento, const Trabajo& trabajo, Refresco& refresco,
                 MaquinaEstados& estados, Anfitrion& anfitrion, DialogoComun& dialogo,
                 std::function<void()> ver);
@@ -35,10 +34,13 @@ class ImagenFondo {
     // Another schematic: the picture that was being placed was the earlier one's.
     void CierraFrame();
 
-    // From a file's section; nothing, or one whose picture cannot be read, leaves no picture.
-    void AplicaTextos(const std::optional<Coleccion<std::string>>& textos);
-    // For the file; nothing without a picture.
-    std::optional<ImagenGuardada> Guardada() const;
+    // From a file's section; nothing, or one whose picture cannot be shown, leaves no picture. Such a section
+    // is kept as it was until another picture takes its place.
+    void AplicaSeccion(const std::optional<SeccionImagen>& seccion);
+    // Why the picture of the file that was opened last is not shown; empty when it is, or there is none.
+    const std::string& Motivo() const noexcept { return motivo_; }
+    // For the file.
+    ImagenQueGuardar Guardada() const;
     // For the paint; no picture when there is none or it is hidden.
     Fondo FondoDelPanel() const;
 
@@ -50,12 +52,15 @@ class ImagenFondo {
   private:
     void ConstruyeFrame(QWidget* visor);
     bool Elige();
-    bool Carga(const std::string& ruta);
+    // Empty when the picture is there now, else why it is not.
+    std::string Carga(const std::string& ruta);
     void Pintar_LinkError() noexcept;
+    void OlvidaLaDelArchivo() noexcept;
     void PonTamanyoInicial();
     bool CajasValidas();
     void EscribeCajas();
-    double Caja(std::size_t i) const;
+    // Nothing for a number beyond all measure.
+    std::optional<double> Caja(std::size_t i) const;
     void Caja(std::size_t i, double valor);
 
     Documento& documento_;
@@ -75,6 +80,8 @@ class ImagenFondo {
     double ImagenPropYX_ = 0;
     double ImagenLY_ = 0;
     std::shared_ptr<const Imagen> Pintar_;
+    std::optional<SeccionImagen> delArchivo_;  // what the file says of a picture that is not shown
+    std::string motivo_;
 
     QGroupBox* frame_ = nullptr;
     std::array<QLineEdit*, 4> otbImagenFondo_{};

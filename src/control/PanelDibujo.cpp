@@ -100,7 +100,9 @@ void PanelDibujo::focusInEvent(QFocusEvent* evento) {
 
 void PanelDibujo::focusOutEvent(QFocusEvent* evento) {
     QWidget::focusOutEvent(evento);
-    if (EntreWidgets(*evento)) emit PierdeFoco();
+    const QPointer<PanelDibujo> vivo(this);
+    emit PierdeTeclado();
+    if (vivo && EntreWidgets(*evento)) emit PierdeFoco();
 }
 
 PuntoXY PanelDibujo::EnElMundo(QPointF punto) const {
@@ -114,6 +116,10 @@ QPointF PanelDibujo::EnElPanel(PuntoXY punto) const {
 }
 
 void PanelDibujo::mousePressEvent(QMouseEvent* evento) {
+    if (Botones(evento->button()) == 0) {
+        evento->ignore();
+        return;
+    }
     const PuntoXY p = EnElMundo(evento->position());
     hayClic_ = true;
     emit Pulsado(Botones(evento->button()), Mayusculas(*evento), p.X, p.Y);
@@ -125,6 +131,10 @@ void PanelDibujo::mouseMoveEvent(QMouseEvent* evento) {
 }
 
 void PanelDibujo::mouseReleaseEvent(QMouseEvent* evento) {
+    if (Botones(evento->button()) == 0) {
+        evento->ignore();
+        return;
+    }
     const PuntoXY p = EnElMundo(evento->position());
     const bool hayClic = std::exchange(hayClic_, false) && rect().contains(evento->position().toPoint());
     const QPointer<PanelDibujo> vivo(this);
@@ -133,10 +143,10 @@ void PanelDibujo::mouseReleaseEvent(QMouseEvent* evento) {
 }
 
 void PanelDibujo::mouseDoubleClickEvent(QMouseEvent* evento) {
-    if (evento->button() == Qt::RightButton)
-        mousePressEvent(evento);
-    else
+    if (evento->button() == Qt::LeftButton)
         emit DobleClic();
+    else
+        mousePressEvent(evento);
 }
 
 // Pixels where the device tells them; on X11 they are the driver's invention. A touchpad sends parts of a

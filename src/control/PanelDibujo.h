@@ -34,13 +34,15 @@ class PanelDibujo : public QWidget {
     // to another window do not count.
     void GanaFoco();
     void PierdeFoco();
+    // The keys go elsewhere, whatever takes them.
+    void PierdeTeclado();
     // The mouse, in world units; buttons 1 left, 2 right, 4 middle, 0 none; mayus 1 Shift + 2 Ctrl + 4 Alt. A
-    // move tells the buttons held.
+    // move tells the buttons held. Other buttons do nothing.
     void Pulsado(qint16 boton, qint16 mayus, float x, float y);
     void Movido(qint16 botones, qint16 mayus, float x, float y);
     void Soltado(qint16 boton, qint16 mayus, float x, float y);
     // After the release, on the panel, of a press; and instead of the second press of two in a row, which is
-    // no click. Two presses of the right button are two presses.
+    // no click. Only the left button has double clicks: two presses of another are two presses.
     void Clic();
     void DobleClic();
     // The wheel or fingers on a touchpad ask for the drawing to move by shares of the panel's width and

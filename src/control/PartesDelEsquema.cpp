@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <cmath>
+#include <utility>
 
 #include "control/CursoresQt.h"
 #include "editing/ConduccionesMovidas.h"
@@ -65,7 +66,10 @@ Esquema::Partes::Partes(Esquema& dueno)
                gestosDeSubsistema},
               *this),
       imagen(&dueno, documento, trabajo, refresco, estados, *this, commonDialog1,
-             [this] { pintado.PintaSinMarcas(); }),
+             [this] {
+                 refresco.PedirRefresco();
+                 refresco.RefrescarSiPendiente();
+             }),
       comandos(panel->lienzo(), documento, trabajo, refresco, vista, desplazamiento, estados, *this, imagen,
                [] { QCoreApplication::processEvents(); }),
       apariencia(panel->lienzo(), documento, trabajo, refresco, vista, avisos, estados, *this,
@@ -113,10 +117,13 @@ void Esquema::Partes::Conecta() {
     });
     QObject::connect(panel, &PanelDibujo::Redimensionado, &esquema,
                      [this] { EnEventoSinCajas([this] { UserControl_Resize(); }); });
+    refresco.AlAtrasarse([this] { RefrescaCuandoHayaCalma(); });
     QObject::connect(panel, &PanelDibujo::GanaFoco, &esquema,
-                     [this] { EnFoco([this] { herramientas.Panel_GotFocus(); }); });
+                     [this] { EnEntradaSinCajas([this] { herramientas.Panel_GotFocus(); }); });
     QObject::connect(panel, &PanelDibujo::PierdeFoco, &esquema,
-                     [this] { EnFoco([this] { herramientas.Panel_LostFocus(); }); });
+                     [this] { EnEntradaSinCajas([this] { herramientas.Panel_LostFocus(); }); });
+    QObject::connect(panel, &PanelDibujo::PierdeTeclado, &esquema,
+                     [this] { EnEntradaSinCajas([this] { teclado.SinTeclado(); }); });
     ConectaRaton();
     ConectaBarras();
     for (auto* parte : esquema.findChildren<QWidget*>())
@@ -156,9 +163,9 @@ void Esquema::Partes::ConectaBarras() {
     const auto barra = [&](BarraDesplazamientoQt* cual, void (Desplazamiento::*cambia)(),
                            void (Desplazamiento::*arrastra)()) {
         QObject::connect(cual, &BarraDesplazamientoQt::Change, &esquema,
-                         [this, cambia] { EnEntrada([&] { (desplazamiento.*cambia)(); }); });
+                         [this, cambia] { EnEntradaSinCajas([&] { (desplazamiento.*cambia)(); }); });
         QObject::connect(cual, &BarraDesplazamientoQt::Scroll, &esquema,
-                         [this, arrastra] { EnEntrada([&] { (desplazamiento.*arrastra)(); }); });
+                         [this, arrastra] { EnEntradaSinCajas([&] { (desplazamiento.*arrastra)(); }); });
     };
     barra(hScroll, &Desplazamiento::HScroll_Change, &Desplazamiento::HScroll_Scroll);
     barra(vScroll, &Desplazamiento::VScroll_Change, &Desplazamiento::VScroll_Scroll);
@@ -212,53 +219,80 @@ void Esquema::Partes::DiSeleccion() noexcept try {
     dicho.clear();
 }
 
+void Esquema::Partes::DiFallo(const Fallo& fallo) {
+    emit esquema.ErrorEnEvento(fallo.Number(), QString::fromStdString(fallo.Source()),
+                               QString::fromStdString(fallo.Description()));
+}
+
+void Esquema::Partes::DiPendientesCuandoHayaCalma() {
+    if (trabajo.bTerminado || (!pintado.HayPendientes() && fallosPendientes.empty())) return;
+    QTimer::singleShot(0, &esquema, [this] {
+        const std::shared_ptr<Partes> vivas = esquema.partes_;
+        for (const Fallo& fallo : std::exchange(fallosPendientes, {})) {
+            DiFallo(fallo);
+            if (trabajo.bTerminado) return;
+        }
+        EnEvento([this] { pintado.DiPendientes(); });
+    });
+}
+
+bool Esquema::Partes::PuedeRefrescarse() const noexcept {
+    return !trabajo.bTerminado && !comandos.Cargando() && !Pintado::HayArrastre(trabajo);
+}
+
 void Esquema::Partes::RefrescaCuandoHayaCalma() {
-    const bool hace = refresco.bRefrescoPendiente() || refresco.bRefrescoDebido();
-    if (refrescoPrevisto || !hace || Pintado::HayArrastre(trabajo)) return;
+    if (refrescoPrevisto || !PuedeRefrescarse() || !refresco.Atrasado()) return;
     refrescoPrevisto = true;
     QTimer::singleShot(0, &esquema, [this] {
         refrescoPrevisto = false;
-        if (!Pintado::HayArrastre(trabajo)) EnEvento([this] { RefrescaEnCalma(); });
+        if (PuedeRefrescarse() && refresco.Atrasado()) EnEvento([this] { RefrescaEnCalma(); });
     });
 }
 
 // The segment that a click would add is not painted: it begins anew from where the mouse is.
 void Esquema::Partes::RefrescaEnCalma() {
-    const bool vistaMovida = refresco.bRefrescoDebido();
-    refresco.RefrescarSiSeDebe();
+    const bool sigueAlRaton = refresco.bRefrescoDebido() || trabajo.trazadoTemporal;
+    refresco.PedirRefresco();
     refresco.RefrescarSiPendiente();
-    if (vistaMovida && trabajo.iEstado == E_DIBUJANDO_CONDUCCION) {
+    if (sigueAlRaton && trabajo.iEstado == E_DIBUJANDO_CONDUCCION) {
         creacion.Mueve(trabajo.ultimoRaton.X, trabajo.ultimoRaton.Y);
     }
 }
 
 // --- Layout -----------------------------------------------------------------------------------------------
 
-float Esquema::Partes::Mm(int pixeles) const {
-    return static_cast<float>(pixeles * MM_POR_PULGADA / esquema.logicalDpiX());
+double Esquema::Partes::PorMm(Qt::Orientation eje) const {
+    return (eje == Qt::Horizontal ? esquema.logicalDpiX() : esquema.logicalDpiY()) / MM_POR_PULGADA;
 }
 
-int Esquema::Partes::PixelesDeMm(float mm) const {
-    return qRound(mm * esquema.logicalDpiX() / MM_POR_PULGADA);
+float Esquema::Partes::Mm(int pixeles, Qt::Orientation eje) const {
+    return static_cast<float>(pixeles / PorMm(eje));
+}
+
+int Esquema::Partes::PixelesDeMm(float mm, Qt::Orientation eje) const {
+    return qRound(mm * PorMm(eje));
 }
 
 // By its edges, so that neighbours touch.
 QRect Esquema::Partes::Pixeles(const CajaMm& caja) const {
     const QPoint origen = esquema.contentsRect().topLeft();
-    const QPoint desde(PixelesDeMm(caja.Left), PixelesDeMm(caja.Top));
-    const QPoint hasta(PixelesDeMm(caja.Left + caja.Width), PixelesDeMm(caja.Top + caja.Height));
+    const auto punto = [this](float x, float y) {
+        return QPoint(PixelesDeMm(x, Qt::Horizontal), PixelesDeMm(y, Qt::Vertical));
+    };
+    const QPoint desde = punto(caja.Left, caja.Top);
+    const QPoint hasta = punto(caja.Left + caja.Width, caja.Top + caja.Height);
     return {origen + desde, QSize(hasta.x() - desde.x(), hasta.y() - desde.y())};
 }
 
 void Esquema::Partes::CreceAlMinimoSiHaceFalta() {
     const QSize interior = esquema.contentsRect().size();
-    const auto crecido = [&](int lado, int dentro, float minimo) {
-        const float mm = Mm(dentro);
+    const auto crecido = [&](int lado, int dentro, float minimo, Qt::Orientation eje) {
+        const float mm = Mm(dentro, eje);
         if (!(mm > 0) || lado <= 0) return lado;
         return static_cast<int>(std::ceil(lado * CreceAlMinimo(mm, minimo) / mm));
     };
-    const QSize tamanyo(crecido(esquema.width(), interior.width(), ANCHO_MINIMO),
-                        crecido(esquema.height(), interior.height(), ALTO_MINIMO));
+    const QSize tamanyo(crecido(esquema.width(), interior.width(), ANCHO_MINIMO, Qt::Horizontal),
+                        crecido(esquema.height(), interior.height(), ALTO_MINIMO, Qt::Vertical));
     if (tamanyo != esquema.size()) esquema.resize(tamanyo);
 }
 
@@ -282,7 +316,7 @@ void Esquema::Partes::UserControl_Resize() {
     CreceAlMinimoSiHaceFalta();
     const QSize interior = esquema.contentsRect().size();
     const auto d = DisposicionDe(
-        Mm(interior.width()), Mm(interior.height()),
+        Mm(interior.width(), Qt::Horizontal), Mm(interior.height(), Qt::Vertical),
         {static_cast<float>(toolBar1->ButtonWidth()), static_cast<float>(toolBar1->ButtonHeight()),
          toolBar1->ButtonCount(), toolBar2->ButtonCount()});
     if (!d) return;
@@ -300,12 +334,13 @@ void Esquema::Partes::AjustaAlMostrarSiHaceFalta() {
     seHaMostrado = true;
     // Keys are for the panel unless the user, or the host, has chosen another place for them.
     if (!esquema.window()->focusWidget()) panel->setFocus();
-    if (!ajustaAlMostrar) return;
-    ajustaAlMostrar = false;
-    EnEventoSinCajas([this] {
+    const AlMostrar que = std::exchange(alMostrar, AlMostrar::Nada);
+    if (que == AlMostrar::Nada) return;
+    EnEventoSinCajas([this, que] {
         UserControl_Resize();
         vista.DisponeDeNuevo(panel->AnchoMm(), panel->AltoMm());
-        vista.AjustarImagen(panel->lienzo(), 1);
+        if (que == AlMostrar::Ajusta) vista.AjustarImagen(panel->lienzo(), 2);
+        refresco.RefrescarSiPendiente();
     });
 }
 

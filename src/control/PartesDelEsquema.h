@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QHash>
 #include <QKeyEvent>
-#include <QSet>
 #include <QTimer>
+#include <vector>
 
 #include "bars/qt/StatusBar.h"
 #include "bars/qt/ZelToolBar.h"
@@ -65,20 +66,23 @@ struct Esquema::Partes : public Anfitrion {
             RefrescaCuandoHayaCalma();
         } catch (...) {
             if (trabajo.bTerminado) return;
-            const Fallo fallo = FalloEnCurso();
-            emit esquema.ErrorEnEvento(fallo.Number(), QString::fromStdString(fallo.Source()),
-                                       QString::fromStdString(fallo.Description()));
+            if (pintado.AvisosAplazados())
+                fallosPendientes.push_back(FalloEnCurso());
+            else
+                DiFallo(FalloEnCurso());
         }
         DiSeleccion();
     }
-    // The same for what the platform is in the middle of: boxes come when it is through.
+    // The same for what the platform is in the middle of, a change of its own: what the host can answer to,
+    // boxes and failures, comes when it is through.
     template <typename Accion>
     void EnEventoSinCajas(Accion accion) {
+        if (trabajo.bTerminado) return;
+        const std::shared_ptr<Partes> vivas = esquema.partes_;
         const bool yaAplazados = pintado.AplazaAvisos(true);
         EnEvento(accion);
         pintado.AplazaAvisos(yaAplazados);
-        if (yaAplazados || !pintado.HayPendientes()) return;
-        QTimer::singleShot(0, &esquema, [this] { EnEvento([this] { pintado.DiPendientes(); }); });
+        if (!yaAplazados) DiPendientesCuandoHayaCalma();
     }
     // The same for what the user does: dropped while a schematic is being loaded.
     template <typename Accion>
@@ -93,13 +97,16 @@ struct Esquema::Partes : public Anfitrion {
     }
 
     template <typename Accion>
-    void EnFoco(Accion accion) {
+    void EnEntradaSinCajas(Accion accion) {
         if (!trabajo.bTerminado && !comandos.Cargando()) EnEventoSinCajas(accion);
     }
+    void DiFallo(const Fallo& fallo);
+    void DiPendientesCuandoHayaCalma();
 
-    // A repaint that was asked for, and that nobody performs, is performed once the events in waiting are
-    // through, unless a drag is under way then.
+    // A repaint that was asked for, by an event or a call, and that nobody performs, is performed once the
+    // events in waiting are through, unless a drag or a load is under way then.
     void RefrescaCuandoHayaCalma();
+    bool PuedeRefrescarse() const noexcept;
     void RefrescaEnCalma();
     // Raises when the host has destroyed the control meanwhile.
     template <typename Emite>
@@ -136,8 +143,9 @@ struct Esquema::Partes : public Anfitrion {
     void TeclaPulsada(const QKeyEvent& tecla);
     void TeclaSoltada(const QKeyEvent& tecla);
 
-    float Mm(int pixeles) const;
-    int PixelesDeMm(float mm) const;
+    double PorMm(Qt::Orientation eje) const;  // pixels
+    float Mm(int pixeles, Qt::Orientation eje) const;
+    int PixelesDeMm(float mm, Qt::Orientation eje) const;
     QRect Pixeles(const CajaMm& caja) const;
     std::shared_ptr<Buttons> BotonesDe(Barra barra) const;
 
@@ -183,10 +191,19 @@ struct Esquema::Partes : public Anfitrion {
     bool bAjustandoVentana = false;
     bool disponiendo = false;
     bool refrescoPrevisto = false;
+    // What the first show does to the view, whose size is final then: lays it out as the first time, fits the
+    // schematic into it, or leaves it as it has been chosen.
+    enum class AlMostrar { Dispone, Ajusta, Nada };
+    AlMostrar alMostrar = AlMostrar::Dispone;
     bool seHaMostrado = false;
-    bool ajustaAlMostrar = false;
-    QSet<quint64> teclasVistas;  // held, and pressed here
-    std::string dicho;           // to screen readers
+    // A key that is held, and was pressed here: its code and mask then.
+    struct TeclaVista {
+        qint16 codigo;
+        qint16 mayus;
+    };
+    QHash<quint64, TeclaVista> teclasVistas;
+    std::vector<Fallo> fallosPendientes;
+    std::string dicho;  // to screen readers
 };
 
 template <typename Accion>

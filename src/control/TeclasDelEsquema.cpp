@@ -68,9 +68,9 @@ void Esquema::Partes::TeclaPulsada(const QKeyEvent& tecla) {
             if (!tecla.isAutoRepeat()) teclasVistas.remove(Identidad(tecla));
             return;
         }
-        if (!tecla.isAutoRepeat()) teclasVistas.insert(Identidad(tecla));
         qint16 codigo = CodigoDeTecla(tecla);
         qint16 mayus = MascaraDeTeclas(tecla);
+        if (!tecla.isAutoRepeat()) teclasVistas.insert(Identidad(tecla), {codigo, mayus});
         Emitido([&] { emit esquema.KeyDown(codigo, mayus); });
         // Ctrl, held, repeats itself when the wheel has ended what it had begun.
         if (!tecla.isAutoRepeat()) teclado.Panel_KeyDown(codigo, mayus);
@@ -82,15 +82,22 @@ void Esquema::Partes::TeclaPulsada(const QKeyEvent& tecla) {
 }
 
 // What was pressed elsewhere (in a box that Escape has closed, say) or has been a shortcut is no key of the
-// editor when it is released. Ctrl is: the end of what only its press here begins.
+// editor when it is released. Ctrl is: the end of what only its press here begins. The host is told the
+// release as it comes; the editor acts on what was pressed, with the keys held then, but for what the host
+// has changed.
 void Esquema::Partes::TeclaSoltada(const QKeyEvent& tecla) {
     if (tecla.isAutoRepeat()) return;
     EnEntrada([&] {
-        const bool esDelEditor = teclasVistas.remove(Identidad(tecla)) || tecla.key() == Qt::Key_Control;
-        qint16 codigo = CodigoDeTecla(tecla);
-        qint16 mayus = MascaraDeTeclas(tecla);
+        const bool laVio = teclasVistas.contains(Identidad(tecla));
+        const bool esDelEditor = laVio || tecla.key() == Qt::Key_Control;
+        const TeclaVista soltada{CodigoDeTecla(tecla), MascaraDeTeclas(tecla)};
+        const TeclaVista pulsada = laVio ? teclasVistas.take(Identidad(tecla)) : soltada;
+        qint16 codigo = soltada.codigo;
+        qint16 mayus = soltada.mayus;
         esquema.Llamada(". ErrUserControl_KeyUp (Esquema)", [&] {
             Emitido([&] { emit esquema.KeyUp(codigo, mayus); });
+            if (codigo == soltada.codigo) codigo = pulsada.codigo;
+            if (mayus == soltada.mayus) mayus = pulsada.mayus;
             if (esDelEditor) teclado.Panel_KeyUp(codigo, mayus);
         });
     });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSize>
+#include <QSizeF>
 #include <cstdint>
 #include <optional>
 
@@ -19,13 +20,14 @@ constexpr std::int16_t MODO_PULGADAS = 5;
 constexpr std::int16_t MODO_MILIMETROS = 6;
 constexpr std::int16_t MODO_CENTIMETROS = 7;
 
-// The scale of a panel of that size, in pixels, in one of these units.
-Superficie::Escala EscalaDelModo(std::int16_t modo, QSize pixeles, double ppp);
+// The scale of a panel of that size, in pixels, in one of these units; `ppp` are pixels per inch, across and
+// down.
+Superficie::Escala EscalaDelModo(std::int16_t modo, QSize pixeles, QSizeF ppp);
 
 // A length from one unit to another; missing ones are hundredths of a millimetre and `propio`. `propia` is
 // the panel's own scale, in units per pixel. Fails with 5 for a number that is no unit.
 float ConvierteLongitud(float valor, const std::optional<Variante>& desde,
-                        const std::optional<Variante>& hasta, bool vertical, double ppp, double propia,
+                        const std::optional<Variante>& hasta, bool vertical, QSizeF ppp, double propia,
                         std::int16_t propio);
 
 }  // namespace zel

@@ -15,7 +15,9 @@ class DialogoComun {
     void Filtro(std::string valor) { filtro_ = std::move(valor); }
 
     std::string ShowOpen() const { return dialogos().ArchivoAbrir(titulo_, filtro_).value_or(""); }
-    std::string ShowSave() const { return dialogos().ArchivoGuardar(titulo_, filtro_, {}).value_or(""); }
+    std::string ShowSave(const std::string& propuesta = {}) const {
+        return dialogos().ArchivoGuardar(titulo_, filtro_, propuesta).value_or("");
+    }
 
   private:
     std::string titulo_;

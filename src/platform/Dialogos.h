@@ -19,6 +19,11 @@ class Dialogos {
     // A notice with an OK button. An empty title shows the platform's default one.
     virtual void MsgBox(const std::string& texto, const std::string& titulo = {}) = 0;
 
+    // The same with what it comes from, which only some will want to read: it may be shown on demand.
+    virtual void AvisoConDetalle(const std::string& texto, const std::string& detalle) {
+        MsgBox(texto + "\n\n" + detalle);
+    }
+
     // The text typed by the user; nothing when the box was cancelled.
     virtual std::optional<std::string> InputBox(const std::string& texto, const std::string& titulo,
                                                 const std::string& propuesta) = 0;
@@ -27,6 +32,9 @@ class Dialogos {
     virtual std::optional<std::string> ArchivoAbrir(const std::string& titulo, const std::string& filtro) = 0;
     virtual std::optional<std::string> ArchivoGuardar(const std::string& titulo, const std::string& filtro,
                                                       const std::string& propuesta) = 0;
+
+    // The folder in which the dialogs for files begin from now on; empty for the platform's own.
+    virtual void Carpeta(const std::string&) {}
 
     // The colour chosen as red + 256 green + 65536 blue; nothing when cancelled.
     virtual std::optional<std::int32_t> Color(std::int32_t propuesta) = 0;

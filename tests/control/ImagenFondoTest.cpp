@@ -131,7 +131,9 @@ TEST_F(ImagenFondo, ItGoesWithTheFileHiddenOrRemoved) {
     EXPECT_TRUE(Parte<QCheckBox>("Check1OcultarImagenFondo")->isChecked());
     abre("sin.xml", false, true);
     fs::remove("plano.bmp");  // the copy beside the schematic
-    abre("con.xml", false, false);
+    abre("con.xml", false, true);
+    esquema.ArchivoAbrir(u"con.xml"_s);
+    EXPECT_TRUE(esquema.AvisoDeImagen().contains(u"plano.bmp"_s)) << esquema.AvisoDeImagen().toStdString();
 }
 
 TEST_F(ImagenFondo, AScannedMapOfManyPixelsIsTaken) {

@@ -20,7 +20,8 @@ class BarraDeBotones : public QWidget {
     bool Enabled() const;
     void Enabled(bool valor);
 
-    std::int16_t ButtonCount() const noexcept { return static_cast<std::int16_t>(botones_->Count()); }
+    // The pictures, whatever becomes of the collection.
+    std::int16_t ButtonCount() const noexcept { return static_cast<std::int16_t>(controles_.size()); }
     // Millimetres at the widget's logical resolution: the buttons stand ButtonWidth apart and are half a
     // millimetre less than ButtonHeight high.
     std::int16_t ButtonHeight() const noexcept { return 7; }

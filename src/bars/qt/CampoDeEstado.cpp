@@ -40,6 +40,7 @@ void CampoDeEstado::PonTexto(const QString& texto) {
     if (text() == texto) return;  // the mouse writes the same coordinates many times
     setText(texto);
     PonAyuda();
+    emit TextoCambiado();
 }
 
 // The text as one line, as much of it as there is room for.

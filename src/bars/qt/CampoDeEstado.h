@@ -21,6 +21,9 @@ class CampoDeEstado : public QLabel {
     // The width that a field needs for that text, in pixels.
     int AnchoPara(const QString& texto) const;
 
+  signals:
+    void TextoCambiado();
+
   protected:
     void changeEvent(QEvent* evento) override;
     void paintEvent(QPaintEvent* evento) override;

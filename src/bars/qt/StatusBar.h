@@ -11,7 +11,7 @@ namespace zel {
 class CampoDeEstado;
 
 // The status bar: a wide field for the prompt ("stats") and three narrow ones at the right for the mouse
-// ("x", "y") and the region shown ("porciento"). Texts are plain.
+// ("x", "y") and the region shown ("porciento"), which are as wide as their texts need. Texts are plain.
 class StatusBar : public QWidget {
     Q_OBJECT
   public:
@@ -29,9 +29,13 @@ class StatusBar : public QWidget {
 
   private:
     void Coloca();
+    // The width of a narrow field: for its usual texts, or for the one it shows.
+    int AnchoDe(std::size_t campo) const;
+    void SigueAlTexto(std::size_t campo);
 
     std::shared_ptr<zel::Panels> paneles_ = std::make_shared<zel::Panels>();
     std::array<CampoDeEstado*, 4> campos_{};
+    std::array<int, 4> anchos_{};  // that fields have needed
 };
 
 }  // namespace zel

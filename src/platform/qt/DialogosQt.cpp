@@ -8,7 +8,10 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <filesystem>
 #include <utility>
+
+#include "platform/qt/Rutas.h"
 
 namespace zel {
 
@@ -50,17 +53,31 @@ class Abierta {
 
 std::optional<std::string> Elegido(Abierta<QFileDialog>& caja) {
     if (!caja.Acepta()) return std::nullopt;
-    return caja->selectedFiles().value(0).toStdString();
+    return RutaDe(caja->selectedFiles().value(0));
+}
+
+void Avisa(const std::string& texto, const std::string& titulo, const std::string& detalle) {
+    Abierta<QMessageBox> caja(QMessageBox::NoIcon, Titulo(titulo), QString::fromStdString(texto),
+                              QMessageBox::Ok, QApplication::activeWindow());
+    caja->setTextFormat(Qt::PlainText);
+    caja->setDetailedText(QString::fromStdString(detalle));
+    caja->button(QMessageBox::Ok)->setText(QStringLiteral("Aceptar"));
+    caja.Acepta();
 }
 
 }  // namespace
 
 void DialogosQt::MsgBox(const std::string& texto, const std::string& titulo) {
-    Abierta<QMessageBox> caja(QMessageBox::NoIcon, Titulo(titulo), QString::fromStdString(texto),
-                              QMessageBox::Ok, QApplication::activeWindow());
-    caja->setTextFormat(Qt::PlainText);
-    caja->button(QMessageBox::Ok)->setText(QStringLiteral("Aceptar"));
-    caja.Acepta();
+    Avisa(texto, titulo, {});
+}
+
+void DialogosQt::AvisoConDetalle(const std::string& texto, const std::string& detalle) {
+    Avisa(texto, {}, detalle);
+}
+
+// The name in the folder, or the folder; a whole path stays.
+std::string DialogosQt::EnLaCarpeta(const std::string& nombre) const {
+    return (std::filesystem::path(carpeta_) / nombre).string();
 }
 
 std::optional<std::string> DialogosQt::InputBox(const std::string& texto, const std::string& titulo,
@@ -76,14 +93,15 @@ std::optional<std::string> DialogosQt::InputBox(const std::string& texto, const 
 }
 
 std::optional<std::string> DialogosQt::ArchivoAbrir(const std::string& titulo, const std::string& filtro) {
-    Abierta<QFileDialog> caja(QApplication::activeWindow(), Titulo(titulo), QString(), FiltroQt(filtro));
+    Abierta<QFileDialog> caja(QApplication::activeWindow(), Titulo(titulo), DeRuta(carpeta_),
+                              FiltroQt(filtro));
     caja->setFileMode(QFileDialog::ExistingFile);
     return Elegido(caja);
 }
 
 std::optional<std::string> DialogosQt::ArchivoGuardar(const std::string& titulo, const std::string& filtro,
                                                       const std::string& propuesta) {
-    Abierta<QFileDialog> caja(QApplication::activeWindow(), Titulo(titulo), QString::fromStdString(propuesta),
+    Abierta<QFileDialog> caja(QApplication::activeWindow(), Titulo(titulo), DeRuta(EnLaCarpeta(propuesta)),
                               FiltroQt(filtro));
     caja->setAcceptMode(QFileDialog::AcceptSave);
     return Elegido(caja);
