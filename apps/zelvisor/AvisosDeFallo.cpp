@@ -1,6 +1,6 @@
 #include "AvisosDeFallo.h"
 
-#include "platform/Dialogos.h"
+#include "Preguntas.h"
 
 namespace zel {
 
@@ -10,7 +10,7 @@ void AvisosDeFallo::Di(const QString& descripcion) {
     enCurso_ << descripcion;
     if (hayCaja) return;
     for (qsizetype i = 0; i < enCurso_.size(); ++i)
-        dialogos().MsgBox(enCurso_[i].toStdString());
+        DiFallo(enCurso_[i].toStdString());
     enCurso_.clear();
 }
 

@@ -2,16 +2,16 @@
 
 #include <filesystem>
 
-#include "file/Formato.h"
 #include "file/lectorArchivo.h"
 
 namespace zel {
 
 namespace {
 
-EsquemaLeido NoLeido(std::string motivo) {
+EsquemaLeido NoLeido(std::string motivo, std::string remedio = COMPRUEBE_EL_ARCHIVO) {
     EsquemaLeido leido;
     leido.motivo = std::move(motivo);
+    leido.remedio = std::move(remedio);
     return leido;
 }
 
@@ -19,12 +19,8 @@ EsquemaLeido NoLeido(std::string motivo) {
 void LeeSecciones(lectorArchivo& lector, EsquemaLeido& leido) {
     // Absolute, so that the picture's path is whole wherever the schematic is saved to.
     lector.NombreArchivo(std::filesystem::absolute(lector.NombreArchivo()).string());
-    if (const auto textos = lector.LeeImagenFondo()) {
-        leido.imagen = ImagenDeTextos(*textos);
-        if (static_cast<std::size_t>(textos->Count()) < HIJOS_DE_IMAGEN.size()) {
-            leido.problemas += "\r\nLa sección ImagenFondo está incompleta";
-        }
-    }
+    leido.imagen = lector.LeeSeccionImagen();
+    if (leido.imagen && !leido.imagen->imagen) leido.problemas += "\r\n" + leido.imagen->motivo;
     const auto ajustes = lector.LeeConfiguracion();
     if (!ajustes || ajustes->Count() == 0) return;
     try {
@@ -36,18 +32,20 @@ void LeeSecciones(lectorArchivo& lector, EsquemaLeido& leido) {
 
 }  // namespace
 
-EsquemaLeido LeeEsquema(const std::string& ruta, std::function<void()> alCederTurno) {
+EsquemaLeido LeeEsquema(const std::string& ruta, CodigosRepetidos repetidos) {
     lectorArchivo lector;
     auto elementos = std::make_shared<Elementos>();
     lector.NombreArchivo(ruta);
     lector.Coleccion(elementos);
-    lector.AlCederTurno(std::move(alCederTurno));
+    lector.AdmiteCodigosRepetidos(repetidos == CodigosRepetidos::SeAdmiten);
     bool conRegistro = true;
     try {
         lector.Carga();
     } catch (const Error& error) {
+        if (!lector.MotivoSinCargar().empty()) return NoLeido(lector.MotivoSinCargar(), CORRIJA_LOS_CODIGOS);
         if (lector.Registro().empty()) {
-            return NoLeido("contiene datos que no se pueden cargar. " + error.Description());
+            return NoLeido("contiene datos que no se pueden cargar: " + CausaDe(error.Description()),
+                           "Compruebe los datos del archivo, o recupere una copia anterior.");
         }
         conRegistro = false;
     }

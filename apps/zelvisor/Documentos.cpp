@@ -4,10 +4,12 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "Carga.h"
 #include "Preguntas.h"
 #include "Recientes.h"
 #include "control/Esquema.h"
 #include "file/lectorArchivo.h"
+#include "platform/qt/Rutas.h"
 
 namespace zel {
 
@@ -28,9 +30,8 @@ class CursorDeEspera {
     ~CursorDeEspera() { QApplication::restoreOverrideCursor(); }
 };
 
-bool NoSeAbre(const QString& ruta, const std::string& motivo) {
-    dialogos().MsgBox("No se puede abrir \"" + ruta.toStdString() + "\": " + motivo +
-                      ".\n\nCompruebe la ruta y que el archivo es un esquema en XML.");
+bool NoSeAbre(const QString& ruta, const std::string& motivo, const char* remedio = COMPRUEBE_EL_ARCHIVO) {
+    DiFallo(motivo, "No se puede abrir \"" + ruta.toStdString() + "\": ", std::string(".\n\n") + remedio);
     return false;
 }
 
@@ -46,7 +47,10 @@ QString Documentos::Nombre() const {
 void Documentos::PonRuta(const QString& ruta) {
     ruta_ = ruta;
     escrito_ = FechaDe(ruta);
-    if (!ruta.isEmpty()) Recientes::Pon(ruta);
+    if (!ruta.isEmpty()) {
+        Recientes::Pon(ruta);
+        dialogos().Carpeta(RutaDe(QFileInfo(ruta).path()));
+    }
     emit Cambiado();
 }
 
@@ -65,9 +69,7 @@ bool Documentos::PuedePerderse() {
 
 bool Documentos::Nuevo() {
     if (cargando_ || !PuedePerderse()) return false;
-    // A file that is not there opens as an empty schematic, whose codes and numbers begin anew.
-    if (!Carga({})) return false;
-    esquema_.bMostrarLineasOcultas(true);
+    esquema_.ArchivoNuevo();
     adjuntos_.Recuerda({});
     PonRuta({});
     return true;
@@ -75,13 +77,13 @@ bool Documentos::Nuevo() {
 
 bool Documentos::PreguntaYAbre() {
     const auto ruta = dialogos().ArchivoAbrir("Abrir esquema", FILTRO);
-    return ruta && Abre(QString::fromStdString(*ruta));
+    return ruta && Abre(DeRuta(*ruta));
 }
 
 bool Documentos::Abre(const QString& ruta) {
     if (cargando_) return false;
     lectorArchivo lector;
-    lector.NombreArchivo(ruta.toStdString());
+    lector.NombreArchivo(RutaDe(ruta));
     const std::string motivo = lector.MotivoParaNoAbrir();
     if (!motivo.empty()) return NoSeAbre(ruta, motivo);
     if (!PuedePerderse() || !Carga(ruta)) return false;
@@ -106,14 +108,15 @@ bool Documentos::Carga(const QString& ruta) {
     }
     cargando_ = false;
     emit CargaCambiada(false);
-    if (!fallo && !ruta.isEmpty()) fallo = Motivo();
+    const bool datosMalos = fallo && !esquema_.MotivoSinLeer().isEmpty();
+    if (!fallo || datosMalos) fallo = Motivo();
     if (!fallo) return true;
     // The file that was open has nothing to do with what is shown after all.
     if (esquema_.GetElementos() != anterior) {
         adjuntos_.Recuerda({});
         PonRuta({});
     }
-    NoSeAbre(ruta, *fallo);
+    NoSeAbre(ruta, *fallo, datosMalos ? CORRIJA_LOS_CODIGOS : COMPRUEBE_EL_ARCHIVO);
     esquema_.Refresh();
     return false;
 }
@@ -126,6 +129,11 @@ std::optional<std::string> Documentos::Motivo() const {
 }
 
 void Documentos::DiProblemas() const {
+    if (const std::string aviso = esquema_.AvisoDeImagen().toStdString(); !aviso.empty()) {
+        dialogos().MsgBox(aviso +
+                          ".\n\nEl esquema se ha abierto sin ella. Lo que el archivo dice de la imagen " +
+                          "se conserva al guardar, salvo que escoja otra.");
+    }
     if (esquema_.ProblemasDeCarga().isEmpty()) return;
     dialogos().MsgBox("El esquema se ha abierto, pero faltaban datos o se repetían. Consulte el archivo " +
                       QDir::current().filePath(QStringLiteral("ErroresCarga.log")).toStdString() + ".");
@@ -147,10 +155,10 @@ bool Documentos::Guarda() {
 
 bool Documentos::GuardaComo() {
     if (cargando_) return false;
-    const auto elegida = dialogos().ArchivoGuardar("Guardar esquema", FILTRO,
-                                                   ruta_.isEmpty() ? "esquema.xml" : ruta_.toStdString());
+    const auto elegida =
+        dialogos().ArchivoGuardar("Guardar esquema", FILTRO, ruta_.isEmpty() ? "esquema.xml" : RutaDe(ruta_));
     if (!elegida) return false;
-    QString ruta = QFileInfo(QString::fromStdString(*elegida)).absoluteFilePath();
+    QString ruta = QFileInfo(DeRuta(*elegida)).absoluteFilePath();
     if (QFileInfo(ruta).suffix().isEmpty()) {
         ruta += QStringLiteral(".xml");
         // The dialog has asked for the name without it.
@@ -167,11 +175,14 @@ bool Documentos::GuardaEn(const QString& ruta) {
     try {
         esquema_.ArchivoGuardar(ruta);
     } catch (const Fallo& error) {
-        dialogos().MsgBox("No se puede guardar \"" + ruta.toStdString() + "\": " + error.Description() +
-                          ".\n\nEl archivo que hubiera con ese nombre sigue como estaba.");
+        DiFallo(error.Description(), "No se puede guardar \"" + ruta.toStdString() + "\": ",
+                ".\n\nEl archivo que hubiera con ese nombre sigue como estaba.");
         return false;
     }
     PonRuta(ruta);
+    if (const std::string aviso = esquema_.AvisoDeImagen().toStdString(); !aviso.empty()) {
+        dialogos().MsgBox("El esquema se ha guardado, pero no su imagen de fondo. " + aviso + ".");
+    }
     if (adjuntos_.Conserva(ruta)) return true;
     esquema_.bHabidoCambios(true);
     dialogos().MsgBox(

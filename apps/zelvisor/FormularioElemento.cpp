@@ -114,6 +114,9 @@ QString FormularioElemento::DescribeExtremo(std::int32_t codigo) const {
 bool FormularioElemento::Rechaza(QLineEdit& campo, const QString& motivo) {
     aviso_->setText(motivo);
     aviso_->show();
+    // Whole, however many lines it takes.
+    layout()->activate();
+    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
     campo.setFocus();
     campo.selectAll();
     return false;

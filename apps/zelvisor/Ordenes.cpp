@@ -9,8 +9,11 @@
 
 #include "Carga.h"
 #include "control/Exportacion.h"
+#include "file/GuardadoSeguro.h"
 #include "model/Verificador.h"
 #include "platform/Numeros.h"
+#include "platform/qt/LectorDeImagen.h"
+#include "platform/qt/Rutas.h"
 #include "session/Extension.h"
 
 namespace zel {
@@ -22,11 +25,11 @@ constexpr int CON_HALLAZGOS = 1;
 constexpr int ILEGIBLE = 2;
 
 // The schematic, or nothing after having said why on the standard error.
-EsquemaLeido LeeODilo(const QString& entrada) {
-    EsquemaLeido leido = LeeEsquema(entrada.toStdString());
+EsquemaLeido LeeODilo(const QString& entrada, CodigosRepetidos repetidos = CodigosRepetidos::SeRechazan) {
+    EsquemaLeido leido = LeeEsquema(RutaDe(entrada), repetidos);
     if (!leido.elementos) {
-        std::cerr << "zelvisor: no se puede leer \"" << entrada.toStdString() << "\": " << leido.motivo
-                  << ".\nCompruebe la ruta y que el archivo es un esquema en XML.\n";
+        std::cerr << "zelvisor: no se puede leer \"" << RutaDe(entrada) << "\": " << leido.motivo << ".\n"
+                  << leido.remedio << '\n';
     }
     return leido;
 }
@@ -42,11 +45,13 @@ void EscribeProblemas(const std::string& problemas) {
 // Saves to another file, or the same; false after having said why it could not.
 bool GuardaODilo(const EsquemaLeido& leido, const QString& salida) {
     try {
-        GuardaConSeguridad(salida.toStdString(), leido.elementos, leido.imagen, leido.bMostrarLineasOcultas);
+        const ImagenQueGuardar imagen = leido.imagen ? ImagenQueGuardar(*leido.imagen) : ImagenQueGuardar();
+        const std::string aviso = GuardaConSeguridad(RutaDe(salida), leido.elementos, imagen,
+                                                     leido.bMostrarLineasOcultas, EsImagen);
+        if (!aviso.empty()) std::cout << aviso << ".\n";
         return true;
     } catch (const Fallo& fallo) {
-        std::cerr << "zelvisor: no se puede guardar \"" << salida.toStdString()
-                  << "\": " << fallo.Description()
+        std::cerr << "zelvisor: no se puede guardar \"" << RutaDe(salida) << "\": " << fallo.Description()
                   << ".\nEl archivo que hubiera con ese nombre sigue como estaba.\n";
         return false;
     }
@@ -62,7 +67,7 @@ void EscribeHallazgo(const HallazgoIntegridad& hallazgo) {
 }  // namespace
 
 int Verifica(const QString& entrada, const QString& salida) {
-    const EsquemaLeido leido = LeeODilo(entrada);
+    const EsquemaLeido leido = LeeODilo(entrada, CodigosRepetidos::SeAdmiten);
     if (!leido.elementos) return ILEGIBLE;
     if (!leido.problemas.empty()) {
         std::cout << "Al leer faltaban datos o se repetían:\n";
@@ -89,7 +94,7 @@ int Verifica(const QString& entrada, const QString& salida) {
         // Not all that is found can be corrected: negative numbers stay, for one.
         const bool sano = Verificador(*leido.elementos, false, false).Verifica() == 0;
         std::cout << (sano ? "El esquema, ya íntegro, está en \"" : "Lo que se podía corregir lo está en \"")
-                  << salida.toStdString() << "\".\n";
+                  << RutaDe(salida) << "\".\n";
     }
     return hallazgos.empty() ? 0 : CON_HALLAZGOS;
 }
@@ -137,15 +142,14 @@ int Exporta(const QString& entrada, const QString& salida, const QString& ancho)
         }
         return 0;
     } catch (const Fallo& fallo) {
-        std::cerr << "zelvisor: no se puede escribir \"" << salida.toStdString()
-                  << "\": " << fallo.Description()
+        std::cerr << "zelvisor: no se puede escribir \"" << RutaDe(salida) << "\": " << fallo.Description()
                   << ".\nEl archivo que hubiera con ese nombre sigue como estaba.\n";
         return NO_HECHO;
     }
 }
 
 int Informa(const QString& entrada) {
-    const EsquemaLeido leido = LeeODilo(entrada);
+    const EsquemaLeido leido = LeeODilo(entrada, CodigosRepetidos::SeAdmiten);
     if (!leido.elementos) return ILEGIBLE;
     std::array<int, NUMERO_DE_TIPOS> porTipo{};
     int desconocidos = 0;
@@ -155,7 +159,7 @@ int Informa(const QString& entrada) {
         else
             ++desconocidos;
     }
-    std::cout << "Archivo: " << entrada.toStdString() << "\nElementos: " << leido.elementos->Count() << '\n';
+    std::cout << "Archivo: " << RutaDe(entrada) << "\nElementos: " << leido.elementos->Count() << '\n';
     for (std::int32_t tipo = 0; tipo < NUMERO_DE_TIPOS; ++tipo) {
         std::cout << "  " << NombreDeTipo(TipoElemento(tipo)) << ": "
                   << porTipo[static_cast<std::size_t>(tipo)] << '\n';

@@ -31,6 +31,15 @@ void Prepara(QMessageBox& caja, const QString& pregunta, const QString& detalle)
 
 }  // namespace
 
+void DiFallo(const std::string& descripcion, const std::string& antes, const std::string& despues) {
+    const std::string causa = CausaDe(descripcion);
+    const std::string texto = antes + causa + despues;
+    if (causa == descripcion)
+        dialogos().MsgBox(texto);
+    else
+        dialogos().AvisoConDetalle(texto, descripcion);
+}
+
 Respuesta PreguntaSiGuardar(QWidget* padre, const QString& nombre) {
     QMessageBox caja(padre);
     Prepara(caja, QStringLiteral("¿Guardar los cambios de \"%1\"?").arg(nombre),

@@ -10,13 +10,17 @@ class QWidget;
 
 namespace zel {
 
+// Tells a failure: what went wrong, and on demand the whole of its description. What comes around the cause
+// is up to the caller.
+void DiFallo(const std::string& descripcion, const std::string& antes = {}, const std::string& despues = {});
+
 // Runs what may fail and tells the user; nothing may leave an event handler.
 template <typename Accion>
 void DiloSiFalla(Accion accion) {
     try {
         accion();
     } catch (const std::exception& fallo) {
-        dialogos().MsgBox(fallo.what());
+        DiFallo(fallo.what());
     }
 }
 

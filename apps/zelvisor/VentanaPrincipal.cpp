@@ -26,6 +26,7 @@ constexpr double ACERCA = 0.5;  // of the visible area
 constexpr double ALEJA = 2.0;
 constexpr int MIRA_CAMBIOS_MS = 200;
 constexpr QSize TAMANYO{1280, 860};
+constexpr QSize TAMANYO_MINIMO{640, 480};
 constexpr double PARTE_DE_LA_PANTALLA = 0.9;  // at most; the frame takes some
 const QString GEOMETRIA = QStringLiteral("ventana/geometria");
 
@@ -48,6 +49,7 @@ VentanaPrincipal::VentanaPrincipal()
     connect(&documentos_, &Documentos::Cambiado, this, &VentanaPrincipal::PonTitulo);
     connect(&documentos_, &Documentos::CargaCambiada, menuBar(), &QWidget::setDisabled);
     PonTitulo();
+    setMinimumSize(TAMANYO_MINIMO);
     resize(TAMANYO.boundedTo(screen()->availableSize() * PARTE_DE_LA_PANTALLA));
     restoreGeometry(Ajustes().value(GEOMETRIA).toByteArray());
     esquema_->setFocus();
@@ -153,13 +155,6 @@ void VentanaPrincipal::PonTitulo() {
     QString nombre = documentos_.Nombre();
     nombre.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
     setWindowTitle(nombre + QStringLiteral("[*] - ") + QGuiApplication::applicationDisplayName());
-}
-
-// The control was first laid out smaller: what an empty schematic shows is all there is of it now.
-void VentanaPrincipal::showEvent(QShowEvent* evento) {
-    QMainWindow::showEvent(evento);
-    if (evento->spontaneous() || esquema_->GetElementos()->Count() > 0) return;
-    DiloSiFalla([&] { esquema_->ResizeGrafo(); });
 }
 
 void VentanaPrincipal::closeEvent(QCloseEvent* evento) {

@@ -23,7 +23,6 @@ class VentanaPrincipal : public QMainWindow {
     bool Abre(const QString& ruta) { return documentos_.Abre(ruta); }
 
   protected:
-    void showEvent(QShowEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
     void dragEnterEvent(QDragEnterEvent* evento) override;
     void dropEvent(QDropEvent* evento) override;

@@ -20,7 +20,10 @@ struct Resultado {
 
 Resultado Ejecuta(const std::string& argumentos) {
     Resultado resultado;
-    std::FILE* tubo = popen(("\"" ZEL_PROGRAMA "\" " + argumentos + " 2>&1").c_str(), "r");
+    std::FILE* tubo = popen(
+        ("env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM \"" ZEL_PROGRAMA "\" " + argumentos + " 2>&1")
+            .c_str(),
+        "r");
     if (!tubo) return resultado;
     std::array<char, 4096> trozo{};
     while (const std::size_t leido = std::fread(trozo.data(), 1, trozo.size(), tubo)) {
@@ -115,7 +118,14 @@ TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
         {"exportar nada.xml salida.png", 2, "No se ha encontrado el archivo"},
         {"info .", 2, "no se puede leer \".\""},
         {"info " + roto, 2, "no está bien formado: en la línea 1, una etiqueta está sin cerrar"},
-        {"info " + repetido, 2, "La clave ya está en la colección"},
+        {"convertir " + repetido + " otro.xml", 2, "verificar ARCHIVO --corregir OTRO"},
+        {"cuenca", 3, "\"cuenca\" no es una orden ni un archivo"},
+        {"infor " + CUENCA, 3, "\"infor\" no es una orden"},
+        {CUENCA + " --negro", 3, "no se conoce la opción \"negro\""},
+        {"info " + CUENCA + " --ancho 300", 3, "Uso:"},
+        {CUENCA, 3, "no hay pantalla"},
+        {"--version", 0, "zelvisor "},
+        {"--help", 0, "Opciones:"},
     };
     for (const auto& caso : casos) {
         const Resultado resultado = Ejecuta(caso.orden);
