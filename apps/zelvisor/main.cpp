@@ -14,6 +14,7 @@
 
 #include "Ordenes.h"
 #include "Preguntas.h"
+#include "Registro.h"
 #include "VentanaPrincipal.h"
 #include "platform/Dialogos.h"
 #include "platform/qt/DialogosQt.h"
@@ -70,7 +71,8 @@ int DiUso() {
                  "  zelvisor exportar ENTRADA SALIDA.{png,svg,pdf} [--ancho PIXELS]\n"
                  "  zelvisor info ENTRADA\n"
                  "  zelvisor verificar ENTRADA [--corregir SALIDA]\n"
-                 "  zelvisor convertir ENTRADA SALIDA.xml\n";
+                 "  zelvisor convertir ENTRADA SALIDA.xml\n"
+                 "  zelvisor {--registra | --anula-registro} [--sistema]\n";
     return 3;
 }
 
@@ -92,6 +94,11 @@ int Ordena(const Peticion& p) {
 int main(int argc, char** argv) {
     // A file-size limit is a failure to write like any other, to be told and tidied up after.
     std::signal(SIGXFSZ, SIG_IGN);
+    if (argc > 1 && EsUnaDe(argv[1], {"--registra", "--anula-registro"})) {
+        const bool sistema = argc == 3 && EsUnaDe(argv[2], {"--sistema"});
+        if (argc != (sistema ? 3 : 2)) return DiUso();
+        return EsUnaDe(argv[1], {"--registra"}) ? zel::Registra(sistema) : zel::AnulaRegistro(sistema);
+    }
     // The orders draw without a display.
     if (EsOrden(argc, argv) || PideAyuda(argc, argv)) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -121,7 +128,10 @@ int main(int argc, char** argv) {
         "  zelvisor exportar ENTRADA SALIDA.{png,svg,pdf}  dibuja el esquema: imagen PNG, o SVG o PDF\n"
         "  zelvisor info ENTRADA                           cuenta qué hay en el archivo\n"
         "  zelvisor verificar ENTRADA [--corregir SALIDA]  busca faltas de integridad\n"
-        "  zelvisor convertir ENTRADA SALIDA.xml           lee el esquema y lo guarda"));
+        "  zelvisor convertir ENTRADA SALIDA.xml           lee el esquema y lo guarda\n"
+        "  zelvisor --registra [--sistema]                 registra la biblioteca, para que otros programas\n"
+        "                                                  la encuentren por su nombre (--anula-registro: ya "
+        "no)"));
     lector.addHelpOption();
     lector.addOption(
         {QStringLiteral("ancho"),
