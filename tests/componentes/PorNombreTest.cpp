@@ -177,7 +177,11 @@ TEST_F(ConEsquema, WhatIsHeldKeepsTheLibraryWhateverItWasGotFrom) {
         uno->reset();
     }
     EXPECT_TRUE(componentes.PuedenDescargarse());
-    EXPECT_TRUE(componentes.Suelta());
+    Componentes otros;
+    otros.Crea(ELEMENTOS);
+    EXPECT_TRUE(componentes.Suelta()) << "whoever else has loaded it";
+    EXPECT_TRUE(otros.Crea(ELEMENTOS));
+    EXPECT_TRUE(otros.Suelta());
     EXPECT_TRUE(componentes.Crea(ELEMENTOS)) << "found again";
 }
 

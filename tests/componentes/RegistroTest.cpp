@@ -81,7 +81,7 @@ TEST_F(Registro, IsRemovedAndNothingElse) {
     EXPECT_EQ(En(DelSistema()), QStringList{REGISTRO});
 }
 
-TEST_F(Registro, TheSystemsIsRootsAndAnotherUserReadsIt) {
+TEST_F(Registro, TheSystemsIsRootsAlone) {
     if (geteuid() == 0) {
         EXPECT_EQ(Entrada("zelRegistra", true).numero, 0);
         EXPECT_EQ(En(DelSistema()), QStringList{REGISTRO});
@@ -164,6 +164,11 @@ TEST_F(Registro, ADamagedRecordIsNamed) {
         EXPECT_TRUE(Dice(danado, REGISTRO.toUtf8())) << danado.texto;
     }
     EXPECT_EQ(Pide("Otra.Clase").numero, 429) << "not this library's";
+    carpeta.Escribe("usuario/zel/componentes/ZELVisorEsquemas-0.0.json", sano);
+    EXPECT_EQ(Pide().numero, 0) << "a sound one beside it";
+    ASSERT_TRUE(QDir().mkpath(DelSistema()));
+    ASSERT_TRUE(QFile::rename(DelUsuario("ZELVisorEsquemas-0.0.json"), DelSistema(REGISTRO)));
+    EXPECT_EQ(Pide().numero, 321) << "the user's own goes before the system's";
     EXPECT_EQ(Entrada("zelRegistra").numero, 0);
     EXPECT_EQ(Pide().numero, 0) << "registering mends it";
 }

@@ -205,7 +205,11 @@ class Componentes {
     }
     // Lets go of the libraries that can be unloaded; true when all went.
     bool Suelta() {
-        std::erase_if(cargadas_, [](const Cargada& c) { return c.puede() && c.biblioteca->unload(); });
+        std::erase_if(cargadas_, [](const Cargada& c) {
+            if (!c.puede()) return false;
+            c.biblioteca->unload();  // another part of the program may go on with it
+            return true;
+        });
         return cargadas_.empty();
     }
 

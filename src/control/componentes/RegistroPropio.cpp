@@ -23,7 +23,7 @@ constexpr const char* BIBLIOTECA = "ZELVisorEsquemas";
 QString RutaPropia() {
     Dl_info donde{};
     if (dladdr(reinterpret_cast<const void*>(&RutaPropia), &donde) == 0 || !donde.dli_fname) throw Fallo(53);
-    const QString ruta = QFileInfo(QString::fromLocal8Bit(donde.dli_fname)).canonicalFilePath();
+    QString ruta = QFileInfo(QString::fromLocal8Bit(donde.dli_fname)).canonicalFilePath();
     if (ruta.isEmpty()) throw Fallo(53);
     return ruta;
 }
