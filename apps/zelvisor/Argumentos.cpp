@@ -26,12 +26,16 @@ constexpr const char* USO =
     "  zelvisor info ENTRADA                                    cuenta qué hay en el archivo\n"
     "  zelvisor verificar ENTRADA [--corregir SALIDA]           busca faltas de integridad\n"
     "  zelvisor convertir ENTRADA SALIDA.xml                    lee el esquema y lo guarda\n"
+    "  zelvisor {--registra | --anula-registro} [--sistema]     registra la biblioteca, o deja de hacerlo\n"
     "  zelvisor --help | --version\n";
 
 constexpr const char* OPCIONES =
     "\nOpciones:\n"
     "  --ancho PIXELES    ancho de la imagen PNG (1600 si no se da) o del dibujo SVG\n"
     "  --corregir SALIDA  guarda en SALIDA el esquema corregido\n"
+    "  --registra         apunta la biblioteca, para que otros programas la encuentren por su nombre\n"
+    "  --anula-registro   borra lo que apuntó --registra\n"
+    "  --sistema          con una de las dos: para todos los usuarios\n"
     "  -h, --help         muestra esta ayuda\n"
     "  -v, --version      muestra la versión\n"
     "\nEl programa acaba con 0 si todo ha ido bien, 1 si \"verificar\" ha encontrado algo, 2 si la entrada "
@@ -51,9 +55,12 @@ Argumentos::Argumentos(int argc, const char* const* argv)
     : ayuda_(QStringList{QStringLiteral("h"), QStringLiteral("help")}),
       version_(QStringList{QStringLiteral("v"), QStringLiteral("version")}),
       ancho_(QStringLiteral("ancho"), {}, QStringLiteral("PIXELES")),
-      corregir_(QStringLiteral("corregir"), {}, QStringLiteral("SALIDA")) {
+      corregir_(QStringLiteral("corregir"), {}, QStringLiteral("SALIDA")),
+      registra_(QStringLiteral("registra")),
+      anula_(QStringLiteral("anula-registro")),
+      sistema_(QStringLiteral("sistema")) {
     lector_.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    for (const auto* opcion : {&ayuda_, &version_, &ancho_, &corregir_})
+    for (const auto* opcion : {&ayuda_, &version_, &ancho_, &corregir_, &registra_, &anula_, &sistema_})
         lector_.addOption(*opcion);
     for (const char* opcion : DE_QT)
         lector_.addOption({QString::fromLatin1(opcion), {}, QStringLiteral("VALOR")});
@@ -74,6 +81,12 @@ void Argumentos::BuscaErrores(const QStringList& palabras) {
         error_ = QStringLiteral("no se conoce la opción \"%1\".").arg(raras.front());
     } else if (!lector_.errorText().isEmpty()) {
         error_ = QStringLiteral("falta el valor de la opción \"%1\", o le sobra.").arg(palabras.back());
+    } else if (PideRegistro() || PideAnularRegistro()) {
+        const bool sobra = !orden_.isEmpty() || !archivos_.isEmpty() || lector_.isSet(ancho_) ||
+                           lector_.isSet(corregir_) || (PideRegistro() && PideAnularRegistro());
+        if (sobra) error_ = QStringLiteral("el registro se hace o se anula, y nada más con ello.");
+    } else if (ParaElSistema()) {
+        error_ = QStringLiteral("--sistema va con --registra o con --anula-registro.");
     } else if (!orden_.isEmpty()) {
         return;
     } else if (archivos_.size() > 1) {

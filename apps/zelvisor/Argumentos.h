@@ -17,6 +17,9 @@ class Argumentos {
 
     bool PideAyuda() const { return lector_.isSet(ayuda_); }
     bool PideVersion() const { return lector_.isSet(version_); }
+    bool PideRegistro() const { return lector_.isSet(registra_); }
+    bool PideAnularRegistro() const { return lector_.isSet(anula_); }
+    bool ParaElSistema() const { return lector_.isSet(sistema_); }
     // What makes no sense, in words for the user; empty when all does.
     const QString& Error() const noexcept { return error_; }
 
@@ -42,6 +45,9 @@ class Argumentos {
     const QCommandLineOption version_;
     const QCommandLineOption ancho_;
     const QCommandLineOption corregir_;
+    const QCommandLineOption registra_;
+    const QCommandLineOption anula_;
+    const QCommandLineOption sistema_;
     QString error_;
     QString orden_;
     QStringList archivos_;

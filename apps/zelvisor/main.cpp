@@ -11,6 +11,7 @@
 #include "Argumentos.h"
 #include "Ordenes.h"
 #include "Preguntas.h"
+#include "Registro.h"
 #include "VentanaPrincipal.h"
 #include "platform/Dialogos.h"
 #include "platform/qt/DialogosQt.h"
@@ -95,6 +96,8 @@ int main(int argc, char** argv) {
         std::cerr << "zelvisor: " << argumentos.Error().toStdString() << '\n';
         return DiUso();
     }
+    if (argumentos.PideRegistro()) return zel::Registra(argumentos.ParaElSistema());
+    if (argumentos.PideAnularRegistro()) return zel::AnulaRegistro(argumentos.ParaElSistema());
     const bool esOrden = !argumentos.Orden().isEmpty();
     // The orders draw without a display.
     if (esOrden) {

@@ -50,6 +50,22 @@ class Esquema : public QFrame {
     Q_PROPERTY(bool FontUnderline READ FontUnderline WRITE FontUnderline STORED false)
     Q_PROPERTY(QString FontName READ FontName WRITE FontName STORED false)
     Q_PROPERTY(float FontSize READ FontSize WRITE FontSize STORED false)
+    Q_PROPERTY(QFont Font READ Font STORED false)
+    // For who knows the control by its names only, and not for a form designer.
+    Q_PROPERTY(qint32 hdc READ hdc DESIGNABLE false STORED false)
+    Q_PROPERTY(QImage Picture READ Picture DESIGNABLE false STORED false)
+    Q_PROPERTY(QString NombreElemento READ NombreElemento WRITE NombreElemento DESIGNABLE false STORED false)
+    Q_PROPERTY(qint32 CodigoElemento READ CodigoElemento WRITE CodigoElemento DESIGNABLE false STORED false)
+    Q_PROPERTY(qint16 NumeroPantallaElemento READ NumeroPantallaElemento WRITE NumeroPantallaElemento
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(float TamanyoElemento READ TamanyoElemento WRITE TamanyoElemento DESIGNABLE false STORED false)
+    Q_PROPERTY(qint16 TipoElemento READ TipoElemento DESIGNABLE false STORED false)
+    Q_PROPERTY(bool bHabidoCambios READ bHabidoCambios WRITE bHabidoCambios DESIGNABLE false STORED false)
+    Q_PROPERTY(bool bMostrarLineasOcultas READ bMostrarLineasOcultas WRITE bMostrarLineasOcultas
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(QString MotivoSinLeer READ MotivoSinLeer DESIGNABLE false STORED false)
+    Q_PROPERTY(QString AvisoDeImagen READ AvisoDeImagen DESIGNABLE false STORED false)
+    Q_PROPERTY(QString ProblemasDeCarga READ ProblemasDeCarga DESIGNABLE false STORED false)
 
   public:
     explicit Esquema(QWidget* padre = nullptr);
@@ -59,10 +75,10 @@ class Esquema : public QFrame {
 
     // Selects the element with that code; the code, or -1 when there is none, and then the selection stays.
     // The second one centres the view on it too. No event is raised.
-    qint32 Seleccionar(qint32 agfCodSig);
-    qint32 SeleccionarCentrarElemento(qint32 agfCodSig);
+    Q_INVOKABLE qint32 Seleccionar(qint32 agfCodSig);
+    Q_INVOKABLE qint32 SeleccionarCentrarElemento(qint32 agfCodSig);
     // Removes the selected element; 0, or -1 when nothing is selected. Codes and numbers go on counting.
-    qint16 BorrarElemento();
+    Q_INVOKABLE qint16 BorrarElemento();
 
     // Of the selected element. With nothing selected reading gives "" or -1, and writing raises. A new code
     // changes the element alone: the collection still knows it under the old one.
@@ -81,7 +97,7 @@ class Esquema : public QFrame {
     qint16 TipoElemento() const;
 
     // Ends the creation of elements and disables the bar that begins it.
-    void AnulaAgregarElementos();
+    Q_INVOKABLE void AnulaAgregarElementos();
 
     // The schematic itself, not a copy. Setting replaces it and repaints; the second form does not repaint.
     // Whoever sets one keeps the highest codes and numbers consistent: they are computed on opening a file.
@@ -94,14 +110,14 @@ class Esquema : public QFrame {
     // Opens a schematic file and shows all of it. A file that cannot be read, or that holds no element, opens
     // as an empty schematic: MotivoSinLeer tells why. Data out of order (a repeated code, a flag that is
     // none) raise, and the earlier schematic stays.
-    void ArchivoAbrir(const QString& archNombre);
+    Q_INVOKABLE void ArchivoAbrir(const QString& archNombre);
     // Saves in one step: the file is all of the old or all of the new. What would not open again (codes that
     // are repeated, traces of less than two points, more than 32767 elements...) raises, and names the
     // elements. A background picture from another folder is copied beside the file, under a name that is free
     // or its own. A file that could not be read when it was last opened is kept beside it, as NAME.bak.
-    void ArchivoGuardar(const QString& archNombre);
+    Q_INVOKABLE void ArchivoGuardar(const QString& archNombre);
     // An empty schematic in the view, and with the switches, of a new control.
-    void ArchivoNuevo();
+    Q_INVOKABLE void ArchivoNuevo();
     // Of the last ArchivoAbrir: why its file could not be read, or which code two of its elements have, empty
     // when it could; and what was missing or repeated in it, also written to "ErroresCarga.log" in the
     // current directory.
@@ -116,17 +132,18 @@ class Esquema : public QFrame {
     // collection unchanged it raises what the failing step does, without a text of its own: the collection's
     // error for a code that is taken; the platform's failure (zel::Fallo) 91 for no element, 9 for a kind
     // outside 0 to 15, 6 when no number is left.
-    void AddElemento(const std::shared_ptr<Elemento>& elem);
+    Q_INVOKABLE void AddElemento(const std::shared_ptr<Elemento>& elem);
     // Numbers on the screen, or names, for many elements at once: entry i of the second list for the code in
     // entry i of the first. The last entry is not applied. False when one could not be: those before it are.
     // They never raise, and the repaint comes when the events in waiting are through; more than 32768 entries
     // are refused whole.
-    bool ModificaVarios_NumUser(const QList<qint32>& aiCodSig, const QList<qint32>& aiNums);
-    bool ModificaVarios_Nombres(const QList<qint32>& aiCodGIS, const QStringList& asNoms);
+    Q_INVOKABLE bool ModificaVarios_NumUser(const QList<qint32>& aiCodSig, const QList<qint32>& aiNums);
+    Q_INVOKABLE bool ModificaVarios_Nombres(const QList<qint32>& aiCodGIS, const QStringList& asNoms);
     // Secondary connections: the first and the second entry of an origin give its two. Before, those of the
     // listed origins, or of all elements, are cleared. Always an empty text; never raises.
-    QString ModificaVarios_ConecSec(const QList<qint32>& aivOrigen, const QList<qint32>& aivDestino,
-                                    bool aBorraAnteriores = false);
+    Q_INVOKABLE QString ModificaVarios_ConecSec(const QList<qint32>& aivOrigen,
+                                                const QList<qint32>& aivDestino,
+                                                bool aBorraAnteriores = false);
 
     // The schematic has changed since it was last opened or saved.
     bool bHabidoCambios() const;
@@ -140,21 +157,21 @@ class Esquema : public QFrame {
     // Fits the whole schematic into the panel. Before the control is first shown it has no final size: the
     // fit is then done again when it is. A view that nobody has chosen by then begins anew, at 100 %. The
     // calls of the view leave what is under way as it is, as the wheel does.
-    void ResizeGrafo();
+    Q_INVOKABLE void ResizeGrafo();
     // Places and sizes the control in its parent, in the parent's millimetres; what is missing is taken so
     // that the control reaches to the parent's right and bottom edges. Raises without a parent.
-    void AjustarAVentana(const std::optional<Variante>& fLeft = std::nullopt,
-                         const std::optional<Variante>& fTop = std::nullopt,
-                         const std::optional<Variante>& fWidth = std::nullopt,
-                         const std::optional<Variante>& fHeight = std::nullopt);
+    Q_INVOKABLE void AjustarAVentana(const std::optional<Variante>& fLeft = std::nullopt,
+                                     const std::optional<Variante>& fTop = std::nullopt,
+                                     const std::optional<Variante>& fWidth = std::nullopt,
+                                     const std::optional<Variante>& fHeight = std::nullopt);
     // The zoom times the factor, around the centre: below 1 a closer view. False when that would be beyond
     // the closest or the farthest view, which a notice has told.
-    bool CambiaZoom(double factor);
+    Q_INVOKABLE bool CambiaZoom(double factor);
 
-    void textoStatBar(const QString& texto);
+    Q_INVOKABLE void textoStatBar(const QString& texto);
     // Brings the QActions of the menu up to date, for a host that shows some in a menu of its own. The
     // control's menu does it when it opens.
-    void PonAlDiaMenu();
+    Q_INVOKABLE void PonAlDiaMenu();
 
     // --- Drawing surface ------------------------------------------------------------------------------
 
@@ -185,15 +202,15 @@ class Esquema : public QFrame {
     qint16 ScaleMode() const;
     void ScaleMode(qint16 valor);
     // The scale by its corners, top left and bottom right.
-    void Scale_(const std::optional<Variante>& x1 = std::nullopt,
-                const std::optional<Variante>& y1 = std::nullopt,
-                const std::optional<Variante>& x2 = std::nullopt,
-                const std::optional<Variante>& y2 = std::nullopt);
+    Q_INVOKABLE void Scale_(const std::optional<Variante>& x1 = std::nullopt,
+                            const std::optional<Variante>& y1 = std::nullopt,
+                            const std::optional<Variante>& x2 = std::nullopt,
+                            const std::optional<Variante>& y2 = std::nullopt);
     // A length from one ScaleMode to another. Missing: from hundredths of a millimetre; to the panel's scale.
-    float ScaleX(float valor, const std::optional<Variante>& FromScale = std::nullopt,
-                 const std::optional<Variante>& ToScale = std::nullopt);
-    float ScaleY(float valor, const std::optional<Variante>& FromScale = std::nullopt,
-                 const std::optional<Variante>& ToScale = std::nullopt);
+    Q_INVOKABLE float ScaleX(float valor, const std::optional<Variante>& FromScale = std::nullopt,
+                             const std::optional<Variante>& ToScale = std::nullopt);
+    Q_INVOKABLE float ScaleY(float valor, const std::optional<Variante>& FromScale = std::nullopt,
+                             const std::optional<Variante>& ToScale = std::nullopt);
 
     // Of the panel's texts. Each repaint sets the size anew, by the zoom, and leaves ForeColor black.
     QFont Font() const;
@@ -212,9 +229,9 @@ class Esquema : public QFrame {
     float FontSize() const;  // points
     void FontSize(float valor);
 
-    void Refresh();
+    Q_INVOKABLE void Refresh();
     // Clears the panel; the next repaint brings the drawing back.
-    void Cls();
+    Q_INVOKABLE void Cls();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

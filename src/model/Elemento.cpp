@@ -10,39 +10,47 @@ constexpr float ETIQUETA_MINIMA = 0.0002F;
 constexpr float ETIQUETA_MAXIMA = 4320.0F;
 
 // The usual texts: "Elemento:P Property Let" and "Elemento:P Property Get".
-#define FILA_USUAL(NOMBRE, CONVERSION)                                               \
+#define FILA_USUAL(NOMBRE, CONVERSION, AYUDA)                                        \
     ZEL_PROPIEDAD(Elemento, NOMBRE, CONVERSION, "Elemento:" #NOMBRE " Property Let", \
-                  "Elemento:" #NOMBRE " Property Get")
-#define FILA(NOMBRE, CONVERSION, ESCRITURA, LECTURA) \
-    ZEL_PROPIEDAD(Elemento, NOMBRE, CONVERSION, ESCRITURA, LECTURA)
+                  "Elemento:" #NOMBRE " Property Get", AYUDA)
+#define FILA(NOMBRE, CONVERSION, ESCRITURA, LECTURA, AYUDA) \
+    ZEL_PROPIEDAD(Elemento, NOMBRE, CONVERSION, ESCRITURA, LECTURA, AYUDA)
 
 constexpr Propiedad<Elemento> TABLA[] = {
-    FILA_USUAL(ColorIcono, Entero32),
-    FILA_USUAL(ColorLinea, Entero32),
-    FILA(ConecSec1, Entero32, "ErrLetConecSec1 (Elemento)", "ErrGetConecSec1 (Elemento)"),
-    FILA(ConecSec2, Entero32, "ErrLetConecSec2 (Elemento)", "ErrGetConecSec2 (Elemento)"),
-    FILA_USUAL(ElemFin, Entero32),
-    FILA_USUAL(ElemIni, Entero32),
-    FILA(EtiquetaGiro, Real32, "ErrLetEtiquetaGiro (Elemento)", "ErrGetEtiquetaGiro (Elemento)"),
-    FILA_USUAL(EtiquetaMovida, Booleano),
-    FILA_USUAL(EtiquetaPosX, Real32),
-    FILA_USUAL(EtiquetaPosY, Real32),
-    FILA_USUAL(EtiquetaTamanyo, Real32),
+    FILA_USUAL(ColorIcono, Entero32, "Color del símbolo: rojo + 256 verde + 65536 azul; -1, el de su tipo"),
+    FILA_USUAL(ColorLinea, Entero32, "Color de la línea: rojo + 256 verde + 65536 azul; -1, el de su tipo"),
+    FILA(ConecSec1, Entero32, "ErrLetConecSec1 (Elemento)", "ErrGetConecSec1 (Elemento)",
+         "Código del otro extremo de la primera conexión secundaria; -1, ninguna"),
+    FILA(ConecSec2, Entero32, "ErrLetConecSec2 (Elemento)", "ErrGetConecSec2 (Elemento)",
+         "Código del otro extremo de la segunda conexión secundaria; -1, ninguna"),
+    FILA_USUAL(ElemFin, Entero32, "Código del elemento final; 0, ninguno"),
+    FILA_USUAL(ElemIni, Entero32, "Código del elemento inicial; 0, ninguno"),
+    FILA(EtiquetaGiro, Real32, "ErrLetEtiquetaGiro (Elemento)", "ErrGetEtiquetaGiro (Elemento)",
+         "Giro de la etiqueta"),
+    FILA_USUAL(EtiquetaMovida, Booleano, "La etiqueta se ha colocado a mano"),
+    FILA_USUAL(EtiquetaPosX, Real32, "Abscisa de la etiqueta respecto al elemento"),
+    FILA_USUAL(EtiquetaPosY, Real32, "Ordenada de la etiqueta respecto al elemento"),
+    FILA_USUAL(EtiquetaTamanyo, Real32, "Tamaño de la etiqueta respecto al normal"),
     FILA(EtiquetaTamanyoRelativo, Booleano, "ErrLetEtiquetaTamanyoRelativo (Elemento)",
-         "ErrGetEtiquetaTamanyoRelativo (Elemento)"),
-    FILA_USUAL(gfCodSIG, Entero32),
-    FILA_USUAL(KeyPant, Entero16),
-    FILA_USUAL(MostrarEtiqueta, Booleano),
-    FILA_USUAL(Nombre, Texto),
-    FILA_USUAL(Tamanyo, Real32),
+         "ErrGetEtiquetaTamanyoRelativo (Elemento)", "La etiqueta crece con el elemento"),
+    FILA_USUAL(gfCodSIG, Entero32, "Código único del elemento"),
+    FILA_USUAL(KeyPant, Entero16, "Número en pantalla, único entre los de su tipo"),
+    FILA_USUAL(MostrarEtiqueta, Booleano, "La etiqueta se ve"),
+    FILA_USUAL(Nombre, Texto, "Nombre, el texto de la etiqueta"),
+    FILA_USUAL(Tamanyo, Real32, "Tamaño respecto al normal, de 0.5 a 33"),
     {"Tipo", [](const Elemento& e) -> Variante { return std::int32_t{e.Tipo()}; },
      [](Elemento& e, const Variante& v) { e.Tipo(static_cast<TipoElemento>(v.Entero32())); },
-     "Elemento:Tipo Property Let", "Elemento:Tipo Property Get"},
-    FILA(Trazado, Referencia<Puntos>, "Elemento:Trazado Property Set", "Elemento:Trazado Property Get"),
-    FILA(Trazado2, Referencia<Puntos>, "Elemento:Trazado2 Property Set", "Elemento:Trazado2 Property Get"),
-    FILA(Valor, Real32, "Elemento: Valor Property Let", "Elemento: Valor Property Get"),
-    FILA(XPos, Real32, "Elemento:xPos Property Let", "Elemento:xPos Property Get"),
-    FILA(YPos, Real32, "Elemento:yPos Property Let", "Elemento:yPos Property Get"),
+     "Elemento:Tipo Property Let", "Elemento:Tipo Property Get",
+     "Tipo del elemento, de 0 (nudo) a 15 (subcuenca); -1, ninguno"},
+    FILA(Trazado, Referencia<Puntos>, "Elemento:Trazado Property Set", "Elemento:Trazado Property Get",
+         "Trazado (Puntos) de un elemento lineal"),
+    FILA(Trazado2, Referencia<Puntos>, "Elemento:Trazado2 Property Set", "Elemento:Trazado2 Property Get",
+         "Trazado (Puntos) de una central hidroeléctrica hasta su final"),
+    FILA(Valor, Real32, "Elemento: Valor Property Let", "Elemento: Valor Property Get",
+         "Número libre del elemento"),
+    FILA(XPos, Real32, "Elemento:xPos Property Let", "Elemento:xPos Property Get", "Abscisa en el esquema"),
+    FILA(YPos, Real32, "Elemento:yPos Property Let", "Elemento:yPos Property Get",
+         "Ordenada en el esquema; crece hacia arriba"),
 };
 
 #undef FILA

@@ -22,8 +22,8 @@ class FuentePropiedades {
     virtual Variante Lee(std::string_view nombre) const = 0;
 };
 
-// One row of a class's property table: how a property is read and written by its name, and the texts with
-// which a failure of either is raised.
+// One row of a class's property table: how a property is read and written by its name, the texts with which a
+// failure of either is raised, and what the property is, for whoever looks at the class by its names.
 template <typename T>
 struct Propiedad {
     std::string_view nombre;
@@ -31,16 +31,17 @@ struct Propiedad {
     void (*escribe)(T&, const Variante&);
     std::string_view textoEscritura;
     std::string_view textoLectura;
+    std::string_view ayuda;
 };
 
 // A row for a property whose read access is T::NOMBRE() and whose write access takes what
 // Variante::CONVERSION() gives.
 // clang-format off
-#define ZEL_PROPIEDAD(T, NOMBRE, CONVERSION, TEXTO_ESCRITURA, TEXTO_LECTURA)                  \
+#define ZEL_PROPIEDAD(T, NOMBRE, CONVERSION, TEXTO_ESCRITURA, TEXTO_LECTURA, AYUDA)           \
     {#NOMBRE,                                                                                 \
      [](const T& objeto) -> Variante { return objeto.NOMBRE(); },                             \
      [](T& objeto, const Variante& valor) { objeto.NOMBRE(valor.CONVERSION()); },             \
-     TEXTO_ESCRITURA, TEXTO_LECTURA}
+     TEXTO_ESCRITURA, TEXTO_LECTURA, AYUDA}
 // clang-format on
 
 template <typename Tabla>

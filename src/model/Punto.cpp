@@ -8,11 +8,11 @@ namespace {
 
 constexpr Propiedad<Punto> TABLA[] = {
     ZEL_PROPIEDAD(Punto, Valor, Real32, "Error en Property Let Valor (Punto)",
-                  "Error en Property Get Valor (Punto)"),
+                  "Error en Property Get Valor (Punto)", "Número libre que acompaña al vértice"),
     ZEL_PROPIEDAD(Punto, YPos, Real32, "Error en Property Let YPos (Punto)",
-                  "Error en Property Get YPos (Punto)"),
+                  "Error en Property Get YPos (Punto)", "Ordenada en el esquema; crece hacia arriba"),
     ZEL_PROPIEDAD(Punto, XPos, Real32, "Error en Property Let XPos (Punto)",
-                  "Error en Porperty Get XPos (Punto)"),
+                  "Error en Porperty Get XPos (Punto)", "Abscisa en el esquema"),
 };
 
 }  // namespace

@@ -8,10 +8,13 @@ namespace {
 
 constexpr Propiedad<Puntos> TABLA[] = {
     ZEL_PROPIEDAD(Puntos, Flecha, Booleano, "Error en Property Let Flecha (Puntos)",
-                  "Error en Property Get Flecha (Puntos)"),
-    ZEL_PROPIEDAD(Puntos, Valor, Real32, "Error en Property Let Valor (Puntos)", "ErrGetValor (Puntos)"),
-    ZEL_PROPIEDAD(Puntos, Valor2, Real32, "ErrLetValor2 (Puntos)", "ErrGetValor2 (Puntos)"),
-    ZEL_PROPIEDAD(Puntos, Valor3, Real32, "ErrLetValor3 (Puntos)", "ErrGetValor3 (Puntos)"),
+                  "Error en Property Get Flecha (Puntos)", "Marca de trabajo del trazado"),
+    ZEL_PROPIEDAD(Puntos, Valor, Real32, "Error en Property Let Valor (Puntos)", "ErrGetValor (Puntos)",
+                  "Número de trabajo del trazado"),
+    ZEL_PROPIEDAD(Puntos, Valor2, Real32, "ErrLetValor2 (Puntos)", "ErrGetValor2 (Puntos)",
+                  "Segundo número de trabajo"),
+    ZEL_PROPIEDAD(Puntos, Valor3, Real32, "ErrLetValor3 (Puntos)", "ErrGetValor3 (Puntos)",
+                  "Tercer número de trabajo"),
 };
 
 bool SinClave(const std::optional<Variante>& clave) {

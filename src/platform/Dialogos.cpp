@@ -39,4 +39,8 @@ std::shared_ptr<Dialogos> instalaDialogos(std::shared_ptr<Dialogos> nuevos) {
     return std::exchange(EnUso(), std::move(nuevos));
 }
 
+void instalaDialogosSiFaltan(std::shared_ptr<Dialogos> nuevos) {
+    if (dynamic_cast<DialogosConsola*>(EnUso().get())) instalaDialogos(std::move(nuevos));
+}
+
 }  // namespace zel

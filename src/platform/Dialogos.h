@@ -47,4 +47,7 @@ Dialogos& dialogos();
 // Installs other dialogs and returns those in use before; an empty pointer brings the initial ones back.
 std::shared_ptr<Dialogos> instalaDialogos(std::shared_ptr<Dialogos> nuevos);
 
+// The same where nobody has installed any: dialogs that are in use stay.
+void instalaDialogosSiFaltan(std::shared_ptr<Dialogos> nuevos);
+
 }  // namespace zel

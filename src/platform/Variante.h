@@ -64,6 +64,13 @@ class Variante {
         return referencia;
     }
 
+    // What `visitante` makes of the value as it is: of std::monostate, bool, std::int32_t, float, double,
+    // std::string or std::shared_ptr<Objeto>.
+    template <typename Visitante>
+    auto Visita(const Visitante& visitante) const {
+        return std::visit(visitante, valor_);
+    }
+
   private:
     std::variant<std::monostate, bool, std::int32_t, float, double, std::string, std::shared_ptr<Objeto>>
         valor_;

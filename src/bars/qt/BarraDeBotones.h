@@ -15,6 +15,11 @@ class BotonDeBarra;
 // tool pressed at a time is up to its owner.
 class BarraDeBotones : public QWidget {
     Q_OBJECT
+    Q_PROPERTY(bool Enabled READ Enabled WRITE Enabled STORED false)
+    Q_PROPERTY(qint16 ButtonCount READ ButtonCount STORED false)
+    Q_PROPERTY(qint16 ButtonHeight READ ButtonHeight STORED false)
+    Q_PROPERTY(qint16 ButtonWidth READ ButtonWidth STORED false)
+
   public:
     // False: no button reacts.
     bool Enabled() const;
