@@ -1,11 +1,13 @@
 #include "drawing/Resaltado.h"
 
+#include <cmath>
 #include <string>
 
 #include "drawing/Colores.h"
 #include "drawing/Conducciones.h"
 #include "drawing/Etiquetas.h"
 #include "drawing/Fuente.h"
+#include "drawing/Simbolos.h"
 #include "model/TamanyoUnidad.h"
 #include "model/modErrorHandling.h"
 
@@ -14,6 +16,10 @@ namespace zel {
 namespace {
 
 constexpr float PIXELES_DE_HOLGURA = 3;
+// Between what is marked under the mouse and its mark: a number, a number's frame, a label.
+constexpr float PIXELES_AL_NUMERO = 1;
+constexpr float PIXELES_AL_MARCO = 2;
+constexpr float PIXELES_A_LA_ETIQUETA = 3;
 
 // Two sides closer than that, on both sides of their middle, become that far apart.
 void Separa(float& menor, float& mayor, float holgura) noexcept {
@@ -84,17 +90,25 @@ void AlternaSubrayado(Superficie& panel, const AjustesDibujo& ajustes, const Ele
         const CajaEtiqueta caja = MideEtiqueta(panel, ajustes, e, e.XPos(), e.YPos());
         panel.DrawMode(Superficie::MODO_INVERTIR);
         panel.DrawWidth(2);
-        panel.Line({caja.X, caja.Y + caja.Alto}, {caja.X + caja.Ancho, caja.Y + caja.Alto});
+        const float y =
+            caja.Y + caja.Alto + std::copysign(PIXELES_A_LA_ETIQUETA * panel.AnchoDePixel(), caja.Alto);
+        panel.Line({caja.X, y}, {caja.X + caja.Ancho, y});
         panel.DrawWidth(1);
     } else {
         PonFuente(panel, ajustes.FactorFuente(panel), ajustes.iEstado);
         const std::string numero = std::to_string(e.KeyPant());
-        const float w = panel.TextWidth(numero);
-        const float h = panel.TextHeight(numero);
+        // Outside the number, and outside its frame where it has one.
+        const bool enmarcado = NumeroEnmarcado(e);
+        const float veces = enmarcado ? VECES_DEL_MARCO : 1;
+        const float aparte = (enmarcado ? PIXELES_AL_MARCO : PIXELES_AL_NUMERO) * panel.AnchoDePixel();
+        const float w = veces * panel.TextWidth(numero);
+        const float h = veces * panel.TextHeight(numero);
         const float arriba =
             e.Tipo() == ctCentralHidroelectrica ? e.YPos() - e.Tamanyo() * TamanyoUnidad() : e.YPos() - h / 2;
         panel.DrawMode(Superficie::MODO_INVERTIR);
-        panel.Caja({e.XPos() - w / 2, arriba}, {e.XPos() + w / 2, arriba + h});
+        const float debajo = std::copysign(aparte, h);
+        panel.Caja({e.XPos() - w / 2 - aparte, arriba - debajo},
+                   {e.XPos() + w / 2 + aparte, arriba + h + debajo});
     }
     PreparaNegro(panel);
 } catch (...) {

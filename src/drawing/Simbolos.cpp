@@ -73,8 +73,8 @@ void MarcaNumero(Superficie& panel, const AjustesDibujo& ajustes, const Elemento
     PreparaColor(panel, COLOR_AZUL);
     PonFuente(panel, ajustes.FactorFuente(panel), ajustes.iEstado);
     const Numero numero = MideNumero(panel, e);
-    const float w = 1.5F * numero.ancho;
-    const float h = 1.5F * numero.alto;
+    const float w = VECES_DEL_MARCO * numero.ancho;
+    const float h = VECES_DEL_MARCO * numero.alto;
     panel.DrawStyle(Superficie::ESTILO_SOLIDO);
     panel.Caja({e.XPos() - w / 2, e.YPos() - h / 2}, {e.XPos() + w / 2, e.YPos() + h / 2});
     PreparaNegro(panel);
@@ -115,6 +115,10 @@ DibujaSimbolo SimboloDe(TipoElemento tipo) noexcept {
 
 }  // namespace
 
+bool NumeroEnmarcado(const Elemento& e) noexcept {
+    return (e.Tipo() < ctConduccion1 || e.Tipo() >= ctAportacion) && e.Tamanyo() >= TAMANYO_CON_MARCO;
+}
+
 void DibujarElemento(Superficie& panel, const AjustesDibujo& ajustes, const Elemento* elemento,
                      bool bFantasma, float X, float Y) try {
     if (!elemento) return;
@@ -130,7 +134,7 @@ void DibujarElemento(Superficie& panel, const AjustesDibujo& ajustes, const Elem
     if (const DibujaSimbolo dibuja = SimboloDe(tipo)) {
         partes.Dibuja([&] { dibuja(panel, ajustes, e, bFantasma, X, Y); });
     }
-    if ((tipo < ctConduccion1 || tipo >= ctAportacion) && e.Tamanyo() >= TAMANYO_CON_MARCO) {
+    if (NumeroEnmarcado(e)) {
         partes.Dibuja([&] { MarcaNumero(panel, ajustes, e); });
     }
     if (bFantasma && e.MostrarEtiqueta() && ajustes.bMostrarEtiquetas) {

@@ -23,6 +23,10 @@ void DibujarElemento(Superficie& panel, const AjustesDibujo& ajustes, const Elem
 // drawing the rest of it once more would darken its smooth edges.
 void DibujarFantasma(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e, float X, float Y);
 
+// The number of a large symbol has a frame, which is larger than the number by that factor.
+constexpr float VECES_DEL_MARCO = 1.5F;
+bool NumeroEnmarcado(const Elemento& e) noexcept;
+
 void DibujarNudo(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e, bool bFantasma, float X,
                  float Y);
 void DibujarEmbalse(Superficie& panel, const AjustesDibujo& ajustes, const Elemento& e, bool bFantasma,

@@ -79,11 +79,11 @@ TEST(Resaltado, SymbolsAreInvertedWithTheirLabelAndConduitsFramedInBlue) {
 
 TEST(Resaltado, TheUnderlineGoesBelowTheLabelOrAroundTheNumber) {
     const std::tuple<Elemento, bool, const char*, const char*> filas[] = {
-        {ConEtiqueta(Simbolo(ctNudo, {100, 50})), true, "linea 105,44 129,44", "6 0 2"},
-        {ConEtiqueta(Lineal(ctConduccion1, {25, 20}, TRAZA)), true, "linea 30,14 54,14", "6 0 2"},
-        {ConEtiqueta(Simbolo(ctNudo, {100, 50})), false, "caja 96,58 104,42", "6 0 1"},
-        {Simbolo(ctEmbalse, {100, 50}, 3), true, "caja 96,58 104,42", "6 0 1"},
-        {Lineal(ctCentralHidroelectrica, {100, 50}, TRAZA, 2), true, "caja 96,42 104,26", "6 0 1"},
+        {ConEtiqueta(Simbolo(ctNudo, {100, 50})), true, "linea 105,43.4 129,43.4", "6 0 2"},
+        {ConEtiqueta(Lineal(ctConduccion1, {25, 20}, TRAZA)), true, "linea 30,13.4 54,13.4", "6 0 2"},
+        {ConEtiqueta(Simbolo(ctNudo, {100, 50})), false, "caja 95.8,58.2 104.2,41.8", "6 0 1"},
+        {Simbolo(ctEmbalse, {100, 50}, 3), true, "caja 93.6,62.4 106.4,37.6", "6 0 1"},
+        {Lineal(ctCentralHidroelectrica, {100, 50}, TRAZA, 2), true, "caja 95.8,42.2 104.2,25.8", "6 0 1"},
         {Lineal(ctConduccion1, {25, 20}, TRAZA), true, "", ""}};
     for (const auto& [e, bMostrarEtiquetas, trazos, plumas] : filas) {
         SuperficieGrabadora panel;

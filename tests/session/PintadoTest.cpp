@@ -112,7 +112,7 @@ TEST_F(Pinturas, OnlyTheSelectedSubsystemIsDrawnInItsState) {
 TEST_F(Pinturas, TheUnderlineFollowsTheMouseAndAPaintWipesIt) {
     Pon({Simbolo(ctNudo, {100, 50}), Simbolo(ctNudo, {150, 50}), Lineal(ctToma, {}, {{10, 10}, {40, 10}})});
     Repinta();
-    const std::string uno = "caja 96,58 104,42", dos = "caja 146,58 154,42";
+    const std::string uno = "caja 95.8,58.2 104.2,41.8", dos = "caja 145.8,58.2 154.2,41.8";
     const std::pair<std::int32_t, std::string> filas[] = {{0, ""},   {1, uno}, {1, ""}, {2, uno + "; " + dos},
                                                           {77, dos}, {0, ""},  {3, ""}, {1, uno},
                                                           {0, uno},  {2, dos}};
