@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QKeyEvent>
 #include <QTimer>
 #include <vector>
@@ -202,6 +203,8 @@ struct Esquema::Partes : public Anfitrion {
         qint16 mayus;
     };
     QHash<quint64, TeclaVista> teclasVistas;
+    QSet<quint64> teclasDeAtajos;  // announced here, and not pressed here as far as is known
+    bool teclasDeFuera = true;     // none has been pressed since the focus came
     std::vector<Fallo> fallosPendientes;
     std::string dicho;  // to screen readers
 };

@@ -52,8 +52,12 @@ void Esquema::Partes::AtiendeTeclado(const QEvent& evento) {
             // The mouse's has had its answer when the button was pressed.
             if (EsDelTeclado(evento)) EnEntrada([this] { LanzaMenuConTeclado(); });
             break;
+        case QEvent::FocusIn:
+            teclasDeFuera = true;
+            break;
         case QEvent::FocusOut:
             teclasVistas.clear();
+            teclasDeAtajos.clear();
             break;
         default:
             break;
@@ -64,10 +68,14 @@ void Esquema::Partes::AtiendeTeclado(const QEvent& evento) {
 void Esquema::Partes::TeclaPulsada(const QKeyEvent& tecla) {
     EnEntrada([&] {
         if (tecla.key() != Qt::Key_Control) teclado.OtraEntrada();
+        teclasDeFuera = false;
         if (tecla.type() == QEvent::ShortcutOverride) {
-            if (!tecla.isAutoRepeat()) teclasVistas.remove(Identidad(tecla));
+            if (tecla.isAutoRepeat()) return;
+            teclasVistas.remove(Identidad(tecla));
+            teclasDeAtajos.insert(Identidad(tecla));
             return;
         }
+        teclasDeAtajos.remove(Identidad(tecla));
         qint16 codigo = CodigoDeTecla(tecla);
         qint16 mayus = MascaraDeTeclas(tecla);
         if (!tecla.isAutoRepeat()) teclasVistas.insert(Identidad(tecla), {codigo, mayus});
@@ -81,15 +89,16 @@ void Esquema::Partes::TeclaPulsada(const QKeyEvent& tecla) {
     });
 }
 
-// What was pressed elsewhere (in a box that Escape has closed, say) or has been a shortcut is no key of the
-// editor when it is released. Ctrl is: the end of what only its press here begins. The host is told the
-// release as it comes; the editor acts on what was pressed, with the keys held then, but for what the host
-// has changed.
+// What was pressed before the focus came (in a box that Escape has closed, say) or has been a shortcut is no
+// key of the editor when it is released. Ctrl is: the end of what only its press here begins. The host is
+// told the release as it comes; the editor acts on what was pressed, with the keys held then, but for what
+// the host has changed.
 void Esquema::Partes::TeclaSoltada(const QKeyEvent& tecla) {
     if (tecla.isAutoRepeat()) return;
     EnEntrada([&] {
         const bool laVio = teclasVistas.contains(Identidad(tecla));
-        const bool esDelEditor = laVio || tecla.key() == Qt::Key_Control;
+        const bool esDeOtro = teclasDeAtajos.remove(Identidad(tecla)) || teclasDeFuera;
+        const bool esDelEditor = laVio || !esDeOtro || tecla.key() == Qt::Key_Control;
         const TeclaVista soltada{CodigoDeTecla(tecla), MascaraDeTeclas(tecla)};
         const TeclaVista pulsada = laVio ? teclasVistas.take(Identidad(tecla)) : soltada;
         qint16 codigo = soltada.codigo;

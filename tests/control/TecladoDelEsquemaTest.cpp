@@ -55,9 +55,11 @@ TEST_F(TecladoDelEsquema, CtrlForAShortcutOrTheWheelLeavesTheSelection) {
     QTest::keyRelease(Panel(), Qt::Key_Control);
 }
 
-TEST_F(TecladoDelEsquema, OnlyAReleaseWhosePressWasSeenHereCounts) {
+TEST_F(TecladoDelEsquema, AReleaseOfWhatWasPressedElsewhereDoesNotCount) {
+    Parte("nudo")->setFocus();
+    Panel()->setFocus();
     Envia(QEvent::KeyRelease, Qt::Key_M);
-    EXPECT_FALSE(Marcado("mano")) << "pressed elsewhere";
+    EXPECT_FALSE(Marcado("mano")) << "pressed before the focus came";
     {
         const QShortcut atajo(QKeySequence(Qt::Key_M), &esquema, [] {});
         QTest::keyClick(Panel(), Qt::Key_M);
@@ -68,6 +70,44 @@ TEST_F(TecladoDelEsquema, OnlyAReleaseWhosePressWasSeenHereCounts) {
     EXPECT_FALSE(Marcado("mano")) << "held";
     QTest::keyClick(Parte("nudo"), Qt::Key_M);
     EXPECT_TRUE(Marcado("mano"));
+    QTest::keyClick(Panel(), Qt::Key_Escape);
+    Envia(QEvent::KeyRelease, Qt::Key_M);
+    EXPECT_TRUE(Marcado("mano")) << "whatever has become of its press";
+}
+
+TEST_F(TecladoDelEsquema, AKeyActsWithTheCompanionsOfItsPress) {
+    std::string visto;
+    const auto suelta = [&](Qt::Key tecla, Qt::KeyboardModifiers con) {
+        QTest::keyPress(Panel(), tecla, con);
+        QTest::keyRelease(Panel(), tecla);
+    };
+    const auto oye = QObject::connect(&esquema, &Esquema::KeyUp, [&](qint16& tecla, qint16& mayus) {
+        visto += std::to_string(tecla) + "/" + std::to_string(mayus) + " ";
+    });
+    suelta(Qt::Key_N, Qt::ShiftModifier);
+    EXPECT_TRUE(visto.ends_with("78/0 ")) << visto << "the host is told what is";
+    EXPECT_TRUE(Marcado("nudo"));
+    QObject::disconnect(oye);
+    QTest::keyClick(Panel(), Qt::Key_Escape);
+    QObject::connect(&esquema, &Esquema::KeyUp, [&](qint16&, qint16& mayus) { mayus = 4; });
+    suelta(Qt::Key_E, Qt::ShiftModifier);
+    EXPECT_FALSE(Marcado("embalse")) << "the host has changed it";
+}
+
+TEST_F(TecladoDelEsquema, CtrlLeavesWithTheFocus) {
+    QTest::keyPress(Panel(), Qt::Key_Control);
+    EXPECT_EQ(esquema.CodigoElemento(), -1);
+    Parte("nudo")->setFocus();
+    Panel()->setFocus();
+    const QImage antes = Dibujo().Imagen().copy();
+    QTest::mouseClick(Panel(), Qt::LeftButton, {}, EnElPanel(5000, 5000));
+    EXPECT_EQ(Dibujo().Imagen(), antes) << "a plain click adds nothing to the subsystem";
+    for (const Qt::Key tecla : {Qt::Key_Z, Qt::Key_M}) {
+        const auto escala = Dibujo().escala();
+        QTest::keyClick(Panel(), tecla, Qt::ControlModifier);
+        EXPECT_FALSE(Marcado("mano"));
+        EXPECT_EQ(Dibujo().escala(), escala);
+    }
 }
 
 TEST_F(TecladoDelEsquema, TheKeysOfThePanel) {
