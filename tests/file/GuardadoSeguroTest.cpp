@@ -1,12 +1,15 @@
 #include "file/GuardadoSeguro.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
+#include <cmath>
 #include <csignal>
 #include <functional>
 #include <random>
@@ -271,6 +274,46 @@ TEST_F(Guardado, LeavesNoPictureCopyWhenTheSavingFails) {
     EXPECT_EQ(LeeArchivo(ruta_), bytesViejos_);
     EXPECT_EQ(LeeArchivo(carpeta_ / "fondo.png"), "vieja");
     EXPECT_EQ(Nombres(carpeta_ / ""), (std::set<std::string>{"año.xml", "fondo.png", "imagenes"}));
+}
+
+TEST_F(Guardado, RefusesWhatWouldNotOpenAgainAndNamesTheElements) {
+    Guarda(ruta_, viejo_);
+    const auto malo = Muestra("malo", 9);
+    malo->Item(6)->gfCodSIG(7);
+    malo->Item(2)->XPos(NAN);
+    const auto corto =
+        malo->Add(ctToma, "Acequia", 20, 1, 0, 0, 1, 2, std::make_shared<Puntos>(), nullptr, "20", 0, 0);
+    corto->Trazado()->Add(1, 1);
+    try {
+        Guarda(ruta_, malo);
+        FAIL() << "saved";
+    } catch (const Fallo& fallo) {
+        EXPECT_EQ(
+            fallo.Description(),
+            "El elemento en la posición 2, \"malo\" (código 2), tiene una posición u otro valor que no es "
+            "un número. El elemento en la posición 7, \"malo\" (código 7), tiene el mismo código que el "
+            "de la posición 6, \"malo\". El elemento en la posición 10, \"Acequia\" (código 20), tiene "
+            "un trazado de menos de dos puntos");
+    }
+    const auto muchos = Muestra("m", 32767);
+    EXPECT_EQ(Intenta(carpeta_ / "muchos.xml", muchos), "0");
+    muchos->Add(ctNudo, "m", 32768, 1, 0, 0, 0, 0, nullptr, nullptr, "k", 0, 0);
+    EXPECT_EQ(Intenta(ruta_, muchos), "!5");
+    EXPECT_EQ(LeeArchivo(ruta_), bytesViejos_);
+}
+
+TEST_F(Guardado, RemovesWhatAKilledSaveHasLeftAndNothingElse) {
+    Guarda(ruta_, viejo_);
+    const auto resto = [&](const char* nombre) { return carpeta_.Escribe(nombre, "a medias"); };
+    const std::string suyo = resto(".año.xml.zel-abc123"), ajeno = resto(".otro.xml.zel-abc123"),
+                      largo = resto(".año.xml.zel-abc1234"), enUso = resto(".año.xml.zel-enuso1");
+    const int fd = open(enUso.c_str(), O_RDWR);
+    ASSERT_EQ(flock(fd, LOCK_EX | LOCK_NB), 0);
+    Guarda(ruta_, nuevo_);
+    close(fd);
+    EXPECT_FALSE(fs::exists(suyo));
+    for (const std::string& queda : {ajeno, largo, enUso})
+        EXPECT_TRUE(fs::exists(queda)) << queda;
 }
 
 TEST_F(Guardado, RefusesWhatAPlainUserMayNotWrite) {

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <map>
 #include <set>
 
@@ -358,6 +359,42 @@ TEST_F(Lector, AddsNothingFromAFileThatItCannotOpen) {
         EXPECT_EQ(elementos_->Count(), 0);
         EXPECT_NE(lector_.MotivoSinLeer(), "");
     }
+}
+
+TEST_F(Lector, RefusesWhatIsMadeToBeSlowAndBlocksOnNothing) {
+    std::string atributos, nombres;
+    for (int i = 0; i < 40000; ++i) {
+        atributos += " a" + std::to_string(i) + "=''";
+        nombres += "<n" + std::to_string(i) + "/>";
+    }
+    const std::string FILAS[] = {Documento({"<Elemento" + atributos + "/>"}), Documento({nombres})};
+    const auto antes = std::chrono::steady_clock::now();
+    for (const auto& contenido : FILAS) {
+        CargaArchivo(contenido);
+        EXPECT_NE(lector_.MotivoSinLeer(), "") << &contenido - FILAS;
+    }
+    const std::string tubo = carpeta_ / "tubo.xml";
+    ASSERT_EQ(mkfifo(tubo.c_str(), 0600), 0);
+    lector_.NombreArchivo(tubo);
+    lector_.Carga();
+    EXPECT_NE(lector_.MotivoSinLeer(), "");
+    EXPECT_EQ(elementos_->Count(), 0);
+    // Seconds or minutes, if time grew with the square.
+    EXPECT_LT(std::chrono::steady_clock::now() - antes, std::chrono::seconds(2));
+}
+
+TEST_F(Lector, HasNoBoundThatASavedSchematicCouldReach) {
+    // Nine million XML elements in one document.
+    std::string puntos;
+    for (int i = 0; i < 300; ++i)
+        puntos += PuntoXml("1", "2");
+    std::vector<std::string> xml;
+    for (int i = 1; i <= 9900; ++i)
+        xml.push_back("<Elemento><Tipo>40</Tipo><gfCodSig>" + std::to_string(i) + "</gfCodSig><Linea>" +
+                      puntos + "</Linea></Elemento>");
+    CargaArchivo(Documento(xml));
+    EXPECT_EQ(lector_.MotivoSinLeer(), "");
+    EXPECT_EQ(elementos_->Count(), 9900);
 }
 
 TEST_F(Lector, FetchesNothingFromOutsideTheFile) {
