@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QScrollBar>
 #include <QTimer>
 #include <functional>
 #include <memory>
@@ -70,6 +71,61 @@ TEST_F(HostQueDestruye, WhileABoxIsOpen) {
     dialogos.Espera("ErrDibujarConduccion");
     QApplication::processEvents();
     EXPECT_EQ(esquema, nullptr);
+}
+
+// Whatever of the platform is at work when a box opens, or a failure is told.
+TEST_F(HostQueDestruye, UnderEachWidgetOfTheControl) {
+    const auto barra = [this](const char* nombre) {
+        return esquema->findChild<QScrollBar*>(QLatin1String(nombre));
+    };
+    const auto pulsa = [this](const char* nombre) { QTest::mouseClick(Parte(nombre), Qt::LeftButton); };
+    const std::function<void()> gestos[] = {
+        [&] { barra("HScroll")->setValue(barra("HScroll")->value() + 9); },
+        [&] { QTest::keyClick(barra("VScroll"), Qt::Key_PageDown); },
+        [&] {
+            QScrollBar* h = barra("HScroll");
+            QTest::mousePress(h, Qt::LeftButton, {}, h->rect().center());
+            QTest::mouseMove(h, h->rect().center() + QPoint(60, 0));
+            if (esquema) QTest::mouseRelease(h, Qt::LeftButton, {}, h->rect().center() + QPoint(60, 0));
+        },
+        [&] { esquema->resize(700, 500); },
+        [&] {
+            Parte("otbImagenFondo(0)")->setFocus();
+            Parte("Panel")->setFocus(Qt::TabFocusReason);
+        },
+        [&] { pulsa("ajustarzoom"); },
+        [&] { QTest::keyClick(Parte("ajustarzoom"), Qt::Key_Space); },
+        [&] { pulsa("cmdImagenFondoVer"); },
+        [&] { QTest::keyClick(Parte("cmdImagenFondoAceptar"), Qt::Key_Space); }};
+    for (const auto& gesto : gestos) {
+        for (const bool porElError : {false, true}) {
+            SCOPED_TRACE(std::to_string(&gesto - gestos) + (porElError ? " by the event" : " in a box"));
+            QImage(40, 40, QImage::Format_RGB32).save(u"plano.bmp"_s);
+            esquema = std::make_unique<Esquema>();
+            esquema->resize(800, 600);
+            esquema->show();
+            esquema->activateWindow();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(esquema.get()));
+            const auto elementos = DosNudos(5000);
+            esquema->GetElementos(elementos);
+            esquema->ResizeGrafo();
+            esquema->CambiaZoom(0.2);
+            dialogos.ResponderArchivo((carpeta / "plano.bmp").string());
+            esquema->findChild<QAction*>(u"menuVisorImagen"_s)->trigger();
+            elementos->Add(ctToma, "Sin trazado", 3, 1, 0, 0, 1, 2, nullptr, nullptr, "3", 0, 0);
+            if (porElError) {
+                dialogos.MientrasAvisa([] { throw Fallo(5, "no box can be shown"); });
+                QObject::connect(esquema.get(), &Esquema::ErrorEnEvento, [this] { esquema.reset(); });
+            } else {
+                dialogos.MientrasAvisa([this] { esquema.reset(); });
+                dialogos.Espera("ErrDibujarConduccion");
+            }
+            gesto();
+            QApplication::processEvents();
+            EXPECT_EQ(esquema, nullptr);
+            dialogos.MientrasAvisa({});
+        }
+    }
 }
 
 TEST_F(HostQueDestruye, ItsWindowUnderABoxOfThePlatform) {
