@@ -43,8 +43,8 @@ void VeACarpetaEscribible(Nombres&... nombres) {
     QDir::setCurrent(QDir::homePath());
 }
 
-int DiUso() {
-    std::cerr << zel::Argumentos::Uso();
+int DiUso(const QString& error) {
+    std::cerr << "zelvisor: " << error.toStdString() << '\n' << zel::Argumentos::Uso();
     return MAL_USO;
 }
 
@@ -56,13 +56,16 @@ int Ordena(const zel::Argumentos& p) {
     const auto es = [&](const char* orden, qsizetype cuantos) {
         return p.Orden() == QLatin1String(orden) && p.Archivos().size() == cuantos;
     };
-    if (!corregir.isNull() && (corregir.isEmpty() || !es("verificar", 1))) return DiUso();
-    if (!p.Ancho().isNull() && p.Orden() != QLatin1String("exportar")) return DiUso();
+    const auto faltaOSobra = [&] {
+        return DiUso(QStringLiteral("a la orden \"%1\" le faltan o le sobran argumentos.").arg(p.Orden()));
+    };
+    if (!corregir.isNull() && (corregir.isEmpty() || !es("verificar", 1))) return faltaOSobra();
+    if (!p.Ancho().isNull() && p.Orden() != QLatin1String("exportar")) return faltaOSobra();
     if (es("exportar", 2)) return zel::Exporta(entrada, salida, p.Ancho());
     if (es("info", 1)) return zel::Informa(entrada);
     if (es("verificar", 1)) return zel::Verifica(entrada, corregir);
     if (es("convertir", 2)) return zel::Convierte(entrada, salida);
-    return DiUso();
+    return faltaOSobra();
 }
 
 int AbreVentana(const zel::Argumentos& argumentos) {
@@ -93,8 +96,7 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (!argumentos.Error().isEmpty()) {
-        std::cerr << "zelvisor: " << argumentos.Error().toStdString() << '\n';
-        return DiUso();
+        return DiUso(argumentos.Error());
     }
     if (argumentos.PideRegistro()) return zel::Registra(argumentos.ParaElSistema());
     if (argumentos.PideAnularRegistro()) return zel::AnulaRegistro(argumentos.ParaElSistema());

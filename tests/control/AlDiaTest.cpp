@@ -7,9 +7,9 @@ namespace {
 class AlDia : public ConRaton {
   protected:
     AlDia() {
-        for (const Elemento& e : {ConNombre(Simbolo(ctNudo, {20, 20}), "Norte"),
-                                  ConNombre(Simbolo(ctEmbalse, {60, 60}), "Presa"),
-                                  ConNombre(Simbolo(ctNudo, {110, 20}), "Sur")}) {
+        for (const Elemento& e :
+             {ConNombre(Simbolo(ctNudo, {20, 20}), "Norte"), ConNombre(Simbolo(ctEmbalse, {60, 60}), "Presa"),
+              ConNombre(Simbolo(ctNudo, {110, 20}), "Sur")}) {
             const auto nuevo = std::make_shared<Elemento>(e);
             nuevo->gfCodSIG(esquema.GetElementos()->Count() + 1);
             esquema.AddElemento(nuevo);

@@ -64,7 +64,8 @@ TEST_F(ImagenFondo, AChosenPictureIsPlacedUnderTheElements) {
     Pulsa("cmdImagenFondoVer");
     EXPECT_TRUE(HayRojo(178, 78));
     EXPECT_FALSE(HayRojo(178, 83));
-    for (const char* malos : {"1;1;50;0.005", "1;1;50;-0.005", "1;1;50;12", "1;1;0.5;1", "1;1;mucho;1"}) {
+    for (const char* malos :
+         {"1e400;1;50;1", "1;1;50;0.005", "1;1;50;-0.005", "1;1;50;12", "1;1;0.5;1", "1;1;mucho;1"}) {
         Escribe(malos);
         Pulsa("cmdImagenFondoVer");
         EXPECT_EQ(Cajas(), "-20 30.5 200 -0.25 ") << malos;
@@ -83,10 +84,22 @@ TEST_F(ImagenFondo, AChosenPictureIsPlacedUnderTheElements) {
 
 TEST_F(ImagenFondo, WithoutAPictureNothingChanges) {
     Escoge(std::nullopt);
-    for (const std::string& ruta :
-         {carpeta.Escribe("texto.bmp", "no es una imagen"), std::string("no hay")}) {
-        dialogos.Espera("No se puede leer la imagen");
+    // 54 bytes that say 15,000 by 15,000.
+    std::string enorme("BM\x36\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x98\x3A\0\0\x98\x3A\0\0\1\0\x18\0", 30);
+    enorme.resize(54);
+    const std::string svg =
+        "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
+        "<image href='plano.bmp' width='9' height='9'/></svg>";
+    const std::pair<std::string, const char*> filas[] = {
+        {carpeta.Escribe("texto.bmp", "no es una imagen"), "no es una imagen BMP"},
+        {"no hay", "no se encuentra el archivo"},
+        {carpeta.Escribe("enorme.bmp", enorme), "demasiado grande (15000 x 15000 puntos"},
+        {carpeta.Escribe("dibujo.svg", svg), "no es una imagen BMP"},
+        {carpeta.Escribe("dibujo.png", svg), "no es una imagen BMP"}};
+    for (const auto& [ruta, motivo] : filas) {
+        dialogos.Espera(motivo);
         Escoge(ruta);
+        EXPECT_TRUE(dialogos.Ultimo().starts_with("No se puede leer la imagen")) << dialogos.Ultimo();
     }
     EXPECT_FALSE(MarcoAbierto());
     EXPECT_EQ(Estado(1), "Preparado");

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cmath>
 #include <functional>
+#include <vector>
 
 #include "platform/qt/ImagenQt.h"
 
@@ -150,6 +153,75 @@ TEST(Lienzo, BoxesAreCrispAndDiagonalsSmooth) {
         Prepara(diagonal, relacion);
         diagonal.Line({5, 5}, {90, 47});
         EXPECT_GT(Cuenta(diagonal.Imagen(), aMedias), 40) << relacion;
+    }
+}
+
+TEST(Lienzo, ThinStrokesWeighTheSameInEveryDirection) {
+    const auto tinta = [](double grados, std::int16_t ancho, double relacion) {
+        Lienzo hoja;
+        Prepara(hoja, relacion);
+        hoja.DrawWidth(ancho);
+        const double a = grados * M_PI / 180;
+        hoja.Line(
+            {50.3F - 30 * static_cast<float>(std::cos(a)), 40.4F - 30 * static_cast<float>(std::sin(a))},
+            {50.3F + 30 * static_cast<float>(std::cos(a)), 40.4F + 30 * static_cast<float>(std::sin(a))});
+        double suma = 0;
+        for (int y = 0; y < hoja.Imagen().height(); ++y) {
+            for (int x = 0; x < hoja.Imagen().width(); ++x)
+                suma += 1 - hoja.Imagen().pixelColor(x, y).lightnessF();
+        }
+        return suma / (60 * relacion);
+    };
+    for (const double relacion : {1.0, 1.5, 2.0}) {
+        for (const std::int16_t ancho : {std::int16_t{1}, std::int16_t{2}}) {
+            const double llana = tinta(0, ancho, relacion);
+            for (const double grados : {7.0, 20.0, 45.0, 63.0, 90.0, 135.0, 170.0})
+                EXPECT_NEAR(tinta(grados, ancho, relacion) / llana, 1, 0.05) << grados << " " << relacion;
+        }
+    }
+}
+
+TEST(Lienzo, DashesTurnTheCornersOfATrace) {
+    for (const std::int16_t estilo :
+         {Superficie::ESTILO_TRAZOS, Superficie::ESTILO_TRAZO_PUNTO, Superficie::ESTILO_TRAZO_PUNTO_PUNTO}) {
+        Lienzo hoja;
+        Prepara(hoja);
+        hoja.DrawStyle(estilo);
+        // Its bends come at every place of the pattern.
+        std::vector<PuntoXY> traza;
+        for (int i = 0; i < 8; ++i) {
+            const float x = 5 + 11.3F * static_cast<float>(i);
+            traza.push_back({x, i % 2 ? 70.0F : 20.0F});
+            traza.push_back({x + 11.3F, i % 2 ? 70.0F : 20.0F});
+        }
+        hoja.Line(traza);
+        const int tinta = Cuenta(hoja.Imagen(), [](QColor c) { return !EsBlanco(c); });
+        EXPECT_LT(tinta, 0.85 * (8 * 11.3 + 7 * 50)) << "dashes still";
+        for (std::size_t i = 1; i + 1 < traza.size(); ++i) {
+            const QPoint p(static_cast<int>(traza[i].X), 80 - static_cast<int>(traza[i].Y));
+            const QImage cerca = hoja.Imagen().copy(QRect(p - QPoint(1, 1), QSize(3, 3)));
+            EXPECT_LT(Cuenta(cerca, EsBlanco), 9) << "no ink on bend " << i << " of style " << estilo;
+        }
+    }
+}
+
+TEST(Lienzo, WhatIsNoNumberIsNotDrawnAndCostsNothing) {
+    for (const std::int16_t ancho : {std::int16_t{1}, std::int16_t{5}}) {
+        for (const std::int16_t estilo : {Superficie::ESTILO_SOLIDO, Superficie::ESTILO_TRAZO_PUNTO}) {
+            Lienzo hoja;
+            Prepara(hoja);
+            hoja.DrawWidth(ancho);
+            hoja.DrawStyle(estilo);
+            const PuntoXY traza[] = {{10, 10}, {NAN, 20}, {30, INFINITY}, {40, 40}};
+            const auto antes = std::chrono::steady_clock::now();
+            hoja.Line(traza);
+            hoja.Circle({NAN, 40}, 9);
+            hoja.Caja({10, NAN}, {30, 40});
+            hoja.PSet({NAN, NAN}, ROJO);
+            EXPECT_LT(std::chrono::steady_clock::now() - antes, std::chrono::milliseconds(500));
+            hoja.Line({10, 60}, {90, 60});
+            EXPECT_FALSE(EsBlanco(hoja.Imagen().pixelColor(12, 20))) << "what follows is";
+        }
     }
 }
 

@@ -82,11 +82,16 @@ TEST(Pintor, WhatCannotBeDrawnStopsNothingElseAndIsToldInOrder) {
     SuperficieGrabadora panel;
     EXPECT_EQ(PintaEsquema(panel, Ajustes(), conjunto, todos).size(), 3U);
     const auto fallos = PintaEsquema(panel, Ajustes(), conjunto, conjunto);
-    const char* const partes[] = {"número: 91, Falta el objeto", "número: 9, La posición está fuera",
-                                  "9. ErrDibujarElemento (Esquema)", "datos incoherentes (Esquema)"};
+    const std::pair<const char*, const char*> partes[] = {
+        {"número: 91, Falta el objeto", "(elemento 1, "},
+        {"número: 9, La posición está fuera", "(elemento 2, "},
+        {"9. ErrDibujarElemento (Esquema)", "(elemento 3, "},
+        {"datos incoherentes (Esquema)", "(elemento 4, "}};
     ASSERT_EQ(fallos.size(), 4U);
-    for (std::size_t i = 0; i < fallos.size(); ++i)
-        EXPECT_NE(fallos[i].find(partes[i]), std::string::npos) << fallos[i];
+    for (std::size_t i = 0; i < fallos.size(); ++i) {
+        EXPECT_NE(fallos[i].find(partes[i].first), std::string::npos) << fallos[i];
+        EXPECT_NE(fallos[i].find(partes[i].second), std::string::npos) << fallos[i];
+    }
     EXPECT_EQ(panel.Textos(), (std::vector<std::string>{"2", "3", "4"}));
     EXPECT_EQ(Relato({panel.trazos[panel.trazos.size() - 2]}), "linea -896,50 156,50");
 }

@@ -77,6 +77,16 @@ TEST(Resaltado, SymbolsAreInvertedWithTheirLabelAndConduitsFramedInBlue) {
     EXPECT_TRUE(panel.trazos.empty());
 }
 
+TEST(Resaltado, TheFrameOfAStraightTraceKeepsClearOfIt) {
+    for (const auto& [traza, caja] : {std::pair(Vertices{{10, 30}, {90, 30}}, "caja 10,29.3 90,30.7"),
+                                      {Vertices{{10, 30}, {10, 80}}, "caja 9.3,30 10.7,80"}}) {
+        SuperficieGrabadora panel;
+        const Elemento e = Lineal(ctConduccion1, {}, traza);
+        SombreaElemento(panel, Ajustes(), &e);
+        EXPECT_EQ(Relato(panel.trazos), caja);
+    }
+}
+
 TEST(Resaltado, TheUnderlineGoesBelowTheLabelOrAroundTheNumber) {
     const std::tuple<Elemento, bool, const char*, const char*> filas[] = {
         {ConEtiqueta(Simbolo(ctNudo, {100, 50})), true, "linea 105,43.4 129,43.4", "6 0 2"},

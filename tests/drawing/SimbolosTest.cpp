@@ -62,6 +62,29 @@ TEST(Simbolos, AGhostIsTheSameOutlineInvertedAtTheGivenPointWithoutNumberOrDots)
     }
 }
 
+TEST(Simbolos, ADraggedGhostOnlyInverts) {
+    for (const TipoElemento tipo : {ctNudo, ctAportacion, ctCentralHidroelectrica, ctRetorno, ctSubcuenca}) {
+        SuperficieGrabadora panel;
+        const Elemento e =
+            ConNombre(Lineal(tipo, SITIO, {{0, 0}, {10, 10}}, 3, {{20, 20}, {30, 30}}), "Salto");
+        DibujarFantasma(panel, Ajustes(), e, 90, 40);
+        EXPECT_GE(panel.trazos.size(), 2U) << tipo;
+        for (const Trazo& t : panel.trazos)
+            EXPECT_EQ(t.pluma.DrawMode, Superficie::MODO_INVERTIR) << tipo;
+    }
+}
+
+TEST(Simbolos, AnAquifersDotsFollowTheGivenStepWhereThereIsOne) {
+    const auto puntos = [](float paso) {
+        SuperficieGrabadora panel;
+        AjustesDibujo ajustes = CON_PARRILLA;
+        ajustes.pasoDeParrilla = paso;
+        DibujaAcuiferoParrilla(panel, ajustes, Simbolo(ctAcuifero, SITIO, 2));
+        return panel.De(Que::Punto).size();
+    };
+    EXPECT_NEAR(static_cast<double>(puntos(0.5F)) / static_cast<double>(puntos(1)), 4, 0.3);
+}
+
 TEST(Simbolos, TheSubcuencasProfileStandsOnAFrameRoundedHalfToEvenAlsoFarOut) {
     SuperficieGrabadora panel;
     DibujarSubcuenca(panel, Ajustes(), Simbolo(ctSubcuenca, {100, 54.75F}, 2.125F), false, 0, 0);

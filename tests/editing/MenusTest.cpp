@@ -49,6 +49,9 @@ TEST(Menus, OffersWhatTheSelectedElementHasAndTellsWhatTheViewShows) {
         {ConNombre(Lineal(ctCentralHidroelectrica, {5, 5}, dos, 1, tres), "X"),
          SIMBOLO + NODOS + etiqueta("")},
         {ConNombre(Lineal(ctRetorno, {0, 0}, tres), "X"), SIMBOLO + NODOS + etiqueta("")},
+        {ConNombre(Simbolo(static_cast<TipoElemento>(16), {1, 1}), "X"), SIMBOLO + etiqueta("")},
+        {ConNombre(Simbolo(static_cast<TipoElemento>(-1), {1, 1}), "X"),
+         "Colores (Color del icono); Tamaño; " + etiqueta("")},
         {Lineal(ctConduccion1, {4, 4}, dos), LINEA + "Etiqueta (Mostrar etiqueta); "}};
     for (const auto& [e, suyo] : filas) {
         const std::string editar = "Editar " + e.Nombre() + "; ";

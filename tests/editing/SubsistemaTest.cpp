@@ -52,6 +52,14 @@ TEST_F(Subsistemas, TheLassoTakesWhatStandsInsideAndTheConduitsBetween) {
     }
 }
 
+TEST_F(Subsistemas, ElementsOfOneCodeAreToldAndTheGestureIsOver) {
+    Elem(3)->gfCodSIG(1);
+    EXPECT_THROW(Encierra({{0, 0}, {60, 0}, {60, 20}, {0, 20}, {0, 0}}, 17), std::exception);
+    EXPECT_EQ(trabajo.iEstado, 5);
+    EXPECT_EQ(anfitrion.textos[1], "Preparado");
+    EXPECT_EQ(trabajo.trazadoTemporal, nullptr);
+}
+
 TEST_F(Subsistemas, ReleasingCtrlMakesTheConduitsMatchTheChosenSymbols) {
     ASSERT_EQ(Encierra({{0, 0}, {60, 0}, {60, 20}, {0, 20}, {0, 0}}), "1 3 5 8 2 4");
     estados.Estado(15, 1);
