@@ -4,7 +4,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QDropEvent>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -20,6 +22,7 @@
 
 #include "VentanaPrincipal.h"
 #include "control/Esquema.h"
+#include "platform/qt/DialogosQt.h"
 #include "support/CarpetaTemporal.h"
 #include "support/DialogosGuion.h"
 
@@ -158,6 +161,42 @@ TEST_F(Ventana, OpensInsideTheScreenWithAllOfTheEmptySchematic) {
                             [](QLabel* t) { return t->text() == u"Región mostrada: 100 %"_s; }));
 }
 
+TEST_F(Ventana, NewBeginsAsAFreshStartDoes) {
+    const auto nuevo = esquema->ScaleWidth();
+    ventana->Abre(ruta);
+    esquema->findChild<QAction*>(u"menuVisorNoEtiquetas"_s)->trigger();
+    esquema->CambiaZoom(0.3);
+    esquema->bHabidoCambios(false);
+    Teclea(Qt::Key_N);
+    EXPECT_EQ(esquema->ScaleWidth(), nuevo);
+    esquema->PonAlDiaMenu();
+    EXPECT_FALSE(esquema->findChild<QAction*>(u"menuVisorNoEtiquetas"_s)->isChecked());
+}
+
+TEST_F(Ventana, DialogsBeginInTheDocumentsFolder) {
+    std::filesystem::create_directory("lejos");
+    std::filesystem::copy_file(CUENCA, "lejos/obra.xml");
+    const auto antes = instalaDialogos(std::make_shared<DialogosQt>());
+    ventana->Abre(QString::fromStdString((carpeta / "lejos/obra.xml").string()));
+    Contesta(u"Cancel"_s, [&](QDialog& caja) {
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(caja).directory(),
+                  QDir(QString::fromStdString((carpeta / "lejos").string())));
+    });
+    Teclea(Qt::Key_O);
+    instalaDialogos(antes);
+}
+
+TEST_F(Ventana, APictureThatIsMissingIsToldAndItsSectionKept) {
+    const std::string seccion =
+        "<ImagenFondo><Archivo>plano.png</Archivo><X0>1</X0><Y0>2</Y0><LX>3</LX>"
+        "<LY>4</LY><Oculta>False</Oculta></ImagenFondo>";
+    carpeta.Escribe("obra.xml", "<Esquema><Elementos/>" + seccion + "</Esquema>");
+    dialogos.Espera("plano.png\": no se encuentra el archivo");
+    EXPECT_TRUE(ventana->Abre(ruta));
+    Teclea(Qt::Key_S);
+    EXPECT_NE(LeeArchivo("obra.xml").find(seccion), std::string::npos) << LeeArchivo("obra.xml");
+}
+
 TEST_F(Ventana, ANewSchematicHasNoFileUntilItIsSaved) {
     ventana->Abre(ruta);
     esquema->bHabidoCambios(true);
@@ -180,6 +219,8 @@ TEST_F(Ventana, ANewSchematicHasNoFileUntilItIsSaved) {
     dialogos.Espera("No se puede guardar");
     Teclea(Qt::Key_S);
     EXPECT_TRUE(esquema->bHabidoCambios());
+    EXPECT_EQ(dialogos.Ultimo().find("Estado de visor"), std::string::npos) << dialogos.Ultimo();
+    EXPECT_NE(dialogos.Detalle().find("ErrArchivoGuardar"), std::string::npos) << dialogos.Detalle();
     // A name without an extension becomes that of a schematic, and an earlier one is not replaced unasked.
     Contesta(u"Cancelar"_s);
     dialogos.ResponderArchivo((carpeta / "obra").string());
@@ -258,11 +299,9 @@ TEST_F(Ventana, TheFormTakesValidDataOnly) {
         const char* texto;
         const char* aviso;
     } casos[] = {
-        {1, "numero", "0", "entre 1 y 32767"},
-        {1, "numero", "1,5", "entre 1 y 32767"},
-        {1, "numero", "2", "ya es de Embalse \"Sur\""},
-        {1, "tamanyo", "3301", "entre 50 y 3300"},
-        {3, "tamanyo", "", "entre 1 y 20"},
+        {1, "numero", "0", "entre 1 y 32767"},     {1, "numero", "1,5", "entre 1 y 32767"},
+        {1, "numero", "99999", "entre 1 y 32767"}, {1, "numero", "2", "ya es de Embalse \"Sur\""},
+        {1, "tamanyo", "3301", "entre 50 y 3300"}, {3, "tamanyo", "", "entre 1 y 20"},
     };
     const auto escribe = [](QDialog& caja, const char* campo, const char* texto) {
         auto* linea = caja.findChild<QLineEdit*>(QString::fromLatin1(campo));
@@ -277,6 +316,8 @@ TEST_F(Ventana, TheFormTakesValidDataOnly) {
             QTest::keyClick(&caja, Qt::Key_Return);
             const std::string aviso = caja.findChild<QLabel*>(u"aviso"_s)->text().toStdString();
             EXPECT_NE(aviso.find(caso.aviso), std::string::npos) << caso.texto << ": " << aviso;
+            const auto* letrero = caja.findChild<QLabel*>(u"aviso"_s);
+            EXPECT_GE(letrero->height(), letrero->heightForWidth(letrero->width())) << "cut";
         });
         emit esquema->EditarElemento(codigo);
     }

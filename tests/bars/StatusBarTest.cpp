@@ -44,6 +44,20 @@ TEST_F(BarraDeEstado, TheNarrowFieldsKeepToTheRightAndThePromptTakesTheRest) {
     }
 }
 
+TEST_F(BarraDeEstado, TheFieldsFollowTheirTexts) {
+    const int habitual = campos[3]->width();
+    barra.Panels()->Item("porciento")->Texto("Región mostrada: 123456 % Máxima región de dibujo");
+    EXPECT_GT(campos[3]->width(), habitual);
+    EXPECT_GE(campos[3]->width(), campos[3]->fontMetrics().horizontalAdvance(campos[3]->text()));
+    EXPECT_EQ(campos[2]->geometry().right() + 1, campos[3]->x());
+    barra.Panels()->Item("porciento")->Texto("Región mostrada: 50 %");
+    EXPECT_EQ(campos[3]->width(), habitual);
+    barra.Panels()->Item("x")->Texto("x=-4999999.9");
+    const int ancha = campos[1]->width();
+    barra.Panels()->Item("x")->Texto("x=1");
+    EXPECT_EQ(campos[1]->width(), ancha) << "it would jump with the mouse";
+}
+
 TEST_F(BarraDeEstado, WhatDoesNotFitIsToldByTheTooltip) {
     barra.Panels()->Item("porciento")->Texto("Región mostrada: 100 % Máxima región de dibujo");
     EXPECT_TRUE(campos[3]->toolTip().isEmpty());

@@ -155,6 +155,30 @@ TEST_F(MarcoDelEsquema, ScalesUpwardsInEveryUnit) {
     EXPECT_EQ(esquema.ScaleMode(), 0);
 }
 
+// A screen whose pixels are not square.
+class EsquemaApaisado : public Esquema {
+  protected:
+    int metric(PaintDeviceMetric que) const override {
+        return que == PdmDpiY ? 2 * Esquema::metric(PdmDpiX) : Esquema::metric(que);
+    }
+};
+
+TEST(MarcoSinVentana, VerticalLengthsUseTheVerticalResolution) {
+    const DialogosGuion dialogos;
+    EsquemaApaisado esquema;
+    esquema.resize(800, 600);
+    esquema.show();
+    QApplication::processEvents();
+    const auto* panel = esquema.findChild<PanelDibujo*>();
+    const double ppp = esquema.logicalDpiX();
+    for (const qint16 modo : {qint16{5}, qint16{6}}) {
+        esquema.ScaleMode(modo);
+        const double porPulgada = modo == 5 ? 1 : 25.4;
+        EXPECT_NEAR(esquema.ScaleWidth(), panel->width() / ppp * porPulgada, 1e-2);
+        EXPECT_NEAR(-esquema.ScaleHeight(), panel->height() / (2 * ppp) * porPulgada, 1e-2);
+    }
+}
+
 // The first and the last column with anything drawn, from one on.
 std::pair<int, int> Columnas(const QImage& imagen, int desde) {
     std::pair<int, int> columnas{imagen.width(), -1};

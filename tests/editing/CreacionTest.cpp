@@ -168,6 +168,9 @@ TEST_F(Creando, WhatFailsCreatesNothingAndKeepsTheTrace) {
     guion.Espera("La colección de elementos ya contiene un elemento con codigo gfCodSIG 3");
     Pulsa("e");
     EXPECT_EQ(EnCurso() + " " + std::to_string(documento.UltimoCodSIG), "3 20,24 20,40 3");
+    Elem(1)->gfCodSIG(4);  // without its key
+    guion.Espera("La colección de elementos ya contiene un elemento con codigo gfCodSIG 4");
+    Pulsa("e");
     EXPECT_EQ(anfitrion.Eventos() + std::to_string(documento.colElementos->Count()), "5");
 }
 

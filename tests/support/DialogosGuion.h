@@ -37,6 +37,8 @@ class DialogosGuion {
     void MientrasAvisa(std::function<void()> accion) { guion_->mientras = std::move(accion); }
     // The whole text of the last notice; the last question and the answer that it proposed.
     const std::string& Ultimo() const { return guion_->ultimo; }
+    // What the last notice kept folded.
+    const std::string& Detalle() const { return guion_->detalle; }
     const std::string& Pregunta() const { return guion_->pregunta; }
     const std::string& Propuesta() const { return guion_->propuesta; }
     std::int32_t ColorPropuesto() const { return guion_->color; }
@@ -52,6 +54,10 @@ class DialogosGuion {
             }
             EXPECT_NE(texto.find(esperados.front()), std::string::npos) << texto;
             esperados.pop_front();
+        }
+        void AvisoConDetalle(const std::string& texto, const std::string& plegado) override {
+            MsgBox(texto, {});
+            detalle = plegado;
         }
         std::optional<std::string> InputBox(const std::string& texto, const std::string&,
                                             const std::string& propone) override {
@@ -85,7 +91,7 @@ class DialogosGuion {
         std::deque<std::optional<std::string>> respuestas, archivos;
         std::deque<std::optional<std::int32_t>> colores;
         std::function<void()> mientras;
-        std::string ultimo, pregunta, propuesta;
+        std::string ultimo, detalle, pregunta, propuesta;
         std::int32_t color = 0;
     };
 
