@@ -5,7 +5,7 @@ set(prefijo ${carpeta}/prefijo)
 file(REMOVE_RECURSE ${carpeta})
 
 function(paso)
-  execute_process(COMMAND ${ARGN} TIMEOUT 60 COMMAND_ECHO STDOUT COMMAND_ERROR_IS_FATAL ANY)
+  execute_process(COMMAND ${ARGN} TIMEOUT 240 COMMAND_ECHO STDOUT COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
 # README.md shows this program's own code.
