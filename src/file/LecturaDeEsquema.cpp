@@ -28,6 +28,13 @@ constexpr std::int32_t PRIMERO_DE_CONFIGURACION = PRIMERO_DE_IMAGEN + std::int32
 constexpr std::string_view RAIZ = "Esquema";
 constexpr std::size_t HIJOS_DE_SECCION = 256;  // that are kept of one
 constexpr std::int32_t MAXIMO_DE_ELEMENTOS = 32767;
+// Each level keeps what stands in the innermost: a schematic has one.
+constexpr std::size_t NIVELES_DE_UNO_EN_OTRO = 8;
+
+void ExigeHondura(std::size_t abiertos) {
+    if (abiertos > NIVELES_DE_UNO_EN_OTRO)
+        throw DocumentoRechazado{"hay demasiados elementos o datos unos dentro de otros"};
+}
 
 }  // namespace
 
@@ -115,6 +122,7 @@ void LecturaDeEsquema::AbreElemento() {
     ElementoLeido& registro = registros_[enUso_++];
     registro.Vacia();
     abiertos_.push_back({nivel_, &registro});
+    ExigeHondura(abiertos_.size());
 }
 
 void LecturaDeEsquema::AbreHijo(std::size_t hijo) {
@@ -122,6 +130,7 @@ void LecturaDeEsquema::AbreHijo(std::size_t hijo) {
         ElementoLeido::Texto& suyo = abierto.elemento->hijos[hijo];
         if (++suyo.cuantos == 1) capturas_.push_back({nivel_, texto_.size(), &suyo.texto, 0, nullptr});
     }
+    ExigeHondura(capturas_.size());
 }
 
 void LecturaDeEsquema::AbreLinea() {
@@ -135,12 +144,14 @@ void LecturaDeEsquema::AbreLinea() {
         lineas[i] = puntos;
     }
     if (puntos) lineas_.push_back({nivel_, std::move(puntos)});
+    ExigeHondura(lineas_.size());
 }
 
 void LecturaDeEsquema::AbrePunto() {
     if (lineas_.empty()) return;
     if (puntosEnUso_ == puntos_.size()) puntos_.emplace_back();
     PuntoAbierto& abierto = puntos_[puntosEnUso_++];
+    ExigeHondura(puntosEnUso_);
     abierto.nivel = nivel_;
     abierto.punto = {};
     abierto.lugares.clear();

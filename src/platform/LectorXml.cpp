@@ -10,11 +10,12 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <exception>
 #include <memory>
+#include <tuple>
 #include <utility>
 
+#include "platform/CuentaAtributos.h"
 #include "platform/Fallo.h"
 
 namespace zel {
@@ -29,83 +30,11 @@ struct SueltaContexto {
     void operator()(xmlParserCtxt* contexto) const noexcept { xmlFreeParserCtxt(contexto); }
 };
 
-// The parser compares each attribute of an element with all the others, and looks names up in a table that
-// stops growing: both are bounded. The format has no attributes, and some sixty names.
-constexpr int MAXIMO_DE_ATRIBUTOS = 256;
+// The parser looks names up in a table that stops growing, and namespaces one by one: both are bounded. The
+// format has some sixty names, and no namespaces.
 constexpr int MAXIMO_DE_NOMBRES = 20000;
-
-// Counts the attributes of a tag as the bytes go by, in any encoding in which the characters of a tag are
-// their ASCII bytes, with or without zeros between.
-class Atributos {
-  public:
-    // False when a tag has too many.
-    bool Mira(std::string_view trozo) noexcept {
-        for (std::size_t i = 0; i < trozo.size(); ++i) {
-            if (donde_ == Donde::Texto) {
-                const void* abre = std::memchr(trozo.data() + i, '<', trozo.size() - i);
-                if (!abre) return true;
-                i = static_cast<std::size_t>(static_cast<const char*>(abre) - trozo.data());
-                donde_ = Donde::Abierta;
-                cuantos_ = 0;
-                ultimos_ = {};
-            } else if (trozo[i] != '\0' && !Sigue(trozo[i])) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-  private:
-    enum class Donde { Texto, Abierta, Etiqueta, Comillas, Declaracion, Comentario, Cdata, Instruccion };
-
-    bool Sigue(char c) noexcept {
-        switch (donde_) {
-            case Donde::Abierta:
-                donde_ = c == '!' ? Donde::Declaracion : c == '?' ? Donde::Instruccion : Donde::Etiqueta;
-                return true;
-            case Donde::Etiqueta:
-                if (c == '"' || c == '\'') {
-                    comilla_ = c;
-                    donde_ = Donde::Comillas;
-                } else if (c == '>') {
-                    donde_ = Donde::Texto;
-                } else if (c == '=') {
-                    return ++cuantos_ <= MAXIMO_DE_ATRIBUTOS;
-                }
-                return true;
-            case Donde::Comillas:
-                if (c == comilla_) donde_ = Donde::Etiqueta;
-                return true;
-            case Donde::Declaracion:
-                if (c == '>') donde_ = Donde::Texto;
-                if (c == '[') donde_ = Donde::Cdata;
-                if (c == '-' && ultimos_.back() == '-') {
-                    donde_ = Donde::Comentario;
-                    c = '\0';
-                }
-                break;
-            case Donde::Comentario:
-                if (c == '>' && Acaba("--")) donde_ = Donde::Texto;
-                break;
-            case Donde::Cdata:
-                if (c == '>' && Acaba("]]")) donde_ = Donde::Texto;
-                break;
-            case Donde::Instruccion:
-                if (c == '>' && ultimos_.back() == '?') donde_ = Donde::Texto;
-                break;
-            case Donde::Texto:
-                break;
-        }
-        ultimos_ = {ultimos_.back(), c};
-        return true;
-    }
-    bool Acaba(std::string_view con) const noexcept { return std::string_view(ultimos_.data(), 2) == con; }
-
-    Donde donde_ = Donde::Texto;
-    char comilla_ = 0;
-    int cuantos_ = 0;
-    std::array<char, 2> ultimos_{};
-};
+constexpr int MAXIMO_DE_ESPACIOS = 256;
+constexpr const char* DEMASIADOS_ATRIBUTOS = "una etiqueta tiene demasiados atributos";
 
 // The vocabulary by the parser's own copies of its names.
 class Vocabulario {
@@ -144,27 +73,32 @@ class Vocabulario {
 struct Analisis {
     std::FILE* archivo;
     OyenteXml& oyente;
+    UnidadXml unidad;
+    CuentaAtributos atributos{unidad};
     const Vocabulario* vocabulario = nullptr;
-    Atributos atributos;
-    bool demasiadosAtributos = false;
-    std::string motivo;
-    std::exception_ptr excepcion;  // the listener's
+    int espacios = 0;
+    std::string motivo{};
+    std::exception_ptr excepcion{};  // the listener's
 
     void Falla(std::string porQue) {
         if (motivo.empty()) motivo = std::move(porQue);
     }
+    bool Acabado() const noexcept { return excepcion || !motivo.empty(); }
 };
 
 Analisis& AnalisisDe(void* contexto) {
     return *static_cast<Analisis*>(static_cast<xmlParserCtxt*>(contexto)->_private);
 }
 
+// What will not be accepted is not read any further: of some failures the parser makes little.
 int LeeTrozo(void* analisis, char* destino, int cuanto) {
     auto& a = *static_cast<Analisis*>(analisis);
+    if (a.Acabado()) return -1;
     const std::size_t leido = std::fread(destino, 1, static_cast<std::size_t>(cuanto), a.archivo);
     if (leido == 0 && std::ferror(a.archivo) != 0) return -1;
-    a.demasiadosAtributos = a.demasiadosAtributos || !a.atributos.Mira({destino, leido});
-    return a.demasiadosAtributos ? -1 : static_cast<int>(leido);
+    if (a.atributos.Mira({destino, leido})) return static_cast<int>(leido);
+    a.Falla(DEMASIADOS_ATRIBUTOS);
+    return -1;
 }
 
 void Detiene(void* contexto, const char* motivo) {
@@ -176,7 +110,7 @@ void Detiene(void* contexto, const char* motivo) {
 template <typename Accion>
 void Avisa(void* contexto, Accion accion) noexcept {
     Analisis& a = AnalisisDe(contexto);
-    if (a.excepcion || !a.motivo.empty()) return;
+    if (a.Acabado()) return;
     try {
         accion(a);
         return;
@@ -194,9 +128,32 @@ void MiraLosNombres(void* contexto) {
     }
 }
 
-void AlEmpezarElemento(void* contexto, const xmlChar* nombre, const xmlChar* prefijo, const xmlChar*, int,
-                       const xmlChar**, int, int, const xmlChar**) {
+// Whether it is an encoding in which the attributes can be counted: with ASCII for its first half, or of the
+// two bytes that the file begins with.
+bool SeAdmite(std::string codificacion, UnidadXml unidad) {
+    for (char& c : codificacion)
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - ('a' - 'A'));
+    if (unidad != UnidadXml::Byte) return codificacion == "UTF-16";
+    for (const char* entera : {"UTF-8", "UTF8", "US-ASCII", "ASCII"})
+        if (codificacion == entera) return true;
+    return codificacion.starts_with("ISO-8859-") || codificacion.starts_with("WINDOWS-125");
+}
+
+void AlEmpezarDocumento(void* contexto) {
+    const auto* c = static_cast<xmlParserCtxt*>(contexto);
+    for (const xmlChar* declarada : {c->encoding, c->input ? c->input->encoding : nullptr}) {
+        if (!declarada) continue;
+        if (!SeAdmite(reinterpret_cast<const char*>(declarada), AnalisisDe(contexto).unidad))
+            Detiene(contexto, "la codificación declarada no se admite: guárdelo en UTF-8");
+    }
+}
+
+void AlEmpezarElemento(void* contexto, const xmlChar* nombre, const xmlChar* prefijo, const xmlChar*,
+                       int espacios, const xmlChar**, int atributos, int, const xmlChar**) {
     MiraLosNombres(contexto);
+    if (atributos > CuentaAtributos::MAXIMO) Detiene(contexto, DEMASIADOS_ATRIBUTOS);
+    if ((AnalisisDe(contexto).espacios += espacios) > MAXIMO_DE_ESPACIOS)
+        Detiene(contexto, "el documento usa demasiados espacios de nombres");
     Avisa(contexto, [&](Analisis& a) {
         a.oyente.AlAbrir(prefijo ? -1 : a.vocabulario->NumeroDe(nombre),
                          reinterpret_cast<const char*>(nombre));
@@ -246,7 +203,6 @@ const char* PorQue(int codigo) noexcept {
         case XML_ERR_UNSUPPORTED_ENCODING:
             return "la codificación declarada no se conoce";
         case XML_ERR_UNDECLARED_ENTITY:
-        case XML_WAR_UNDECLARED_ENTITY:
             return "se usa una entidad sin declarar";
         case XML_ERR_NO_MEMORY:
         case XML_ERR_INTERNAL_ERROR:
@@ -256,17 +212,24 @@ const char* PorQue(int codigo) noexcept {
     }
 }
 
+void NoEstaBienFormado(Analisis& a, int codigo, int linea) {
+    const std::string donde = linea > 0 ? "en la línea " + std::to_string(linea) + ", " : "";
+    a.Falla("el XML no está bien formado: " + donde + PorQue(codigo));
+}
+
 // Everything that the parser reports, instead of its own words on the standard error stream. Warnings are
-// no reason to refuse a document, save the entity that would vanish from it.
+// no reason to refuse a document.
 void AlFallar(void* analisis, xmlErrorPtr error) {
-    if (error->level < XML_ERR_ERROR && error->code != XML_WAR_UNDECLARED_ENTITY) return;
-    auto& a = *static_cast<Analisis*>(analisis);
-    if (a.demasiadosAtributos) {
-        a.Falla("una etiqueta tiene demasiados atributos");
-        return;
-    }
-    const std::string donde = error->line > 0 ? "en la línea " + std::to_string(error->line) + ", " : "";
-    a.Falla("el XML no está bien formado: " + donde + PorQue(error->code));
+    if (error->level < XML_ERR_ERROR) return;
+    NoEstaBienFormado(*static_cast<Analisis*>(analisis), error->code, error->line);
+}
+
+// XML's own five do not come here, and no document may declare others: this one would vanish from it.
+xmlEntity* AlPedirEntidad(void* contexto, const xmlChar*) {
+    auto* c = static_cast<xmlParserCtxt*>(contexto);
+    NoEstaBienFormado(AnalisisDe(contexto), XML_ERR_UNDECLARED_ENTITY, c->input ? c->input->line : 0);
+    xmlStopParser(c);
+    return nullptr;
 }
 
 // Installs the handler of failures for this thread while it lives: some of them reach no parser's own one.
@@ -285,15 +248,28 @@ class EscuchaFallos {
     xmlStructuredErrorFunc funcion_;
 };
 
-// "UTF-8" when the file begins with that encoding's byte order mark, which then outweighs the declaration
-// and is left behind; null otherwise.
-const char* CodificacionDeLaMarca(std::FILE* archivo) noexcept {
-    char inicio[3] = {};
-    const bool marca =
-        std::fread(inicio, 1, 3, archivo) == 3 && std::string_view(inicio, 3) == "\xEF\xBB\xBF";
-    if (marca) return "UTF-8";
+// What a file begins with. Anything else than the one mark and the other two forms is no XML that the parser
+// is asked about: it knows encodings in which the attributes could not be counted.
+struct Principio {
+    UnidadXml unidad = UnidadXml::Byte;
+    const char* codificacion = nullptr;  // a UTF-8 byte order mark outweighs what is declared
+    bool esXml = false;
+};
+
+Principio LeePrincipio(std::FILE* archivo) noexcept {
+    using namespace std::string_view_literals;
+    char bytes[5] = {};
+    const std::string_view inicio(bytes, std::fread(bytes, 1, sizeof bytes, archivo));
     std::rewind(archivo);
-    return nullptr;
+    for (const auto& [unidad, marca, sinMarca] : {std::tuple(UnidadXml::Utf16Le, "\xFF\xFE"sv, "<\0?\0"sv),
+                                                  std::tuple(UnidadXml::Utf16Be, "\xFE\xFF"sv, "\0<\0?"sv)})
+        if (inicio.starts_with(marca) || inicio.starts_with(sinMarca)) return {unidad, nullptr, true};
+    const bool conMarca = inicio.starts_with("\xEF\xBB\xBF");
+    const std::string_view texto = inicio.substr(conMarca ? 3 : 0);
+    const bool esXml = !texto.empty() && "< \t\r\n"sv.find(texto[0]) != std::string_view::npos &&
+                       !texto.substr(0, 2).ends_with('\0');
+    if (conMarca) std::fseek(archivo, 3, SEEK_SET);
+    return {UnidadXml::Byte, conMarca ? "UTF-8" : nullptr, esXml};
 }
 
 // A pipe would keep whoever opens it waiting, for ever perhaps.
@@ -315,7 +291,9 @@ Archivo AbreArchivo(const std::string& nombre, std::string& motivo) {
 void PonLlamadas(xmlSAXHandler& sax) noexcept {
     sax = {};
     sax.initialized = XML_SAX2_MAGIC;
+    sax.startDocument = AlEmpezarDocumento;
     sax.internalSubset = AlDeclararTipo;
+    sax.getEntity = AlPedirEntidad;
     sax.startElementNs = AlEmpezarElemento;
     sax.endElementNs = AlAcabarElemento;
     sax.characters = AlLeerTexto;
@@ -332,16 +310,21 @@ bool LectorXml::Lee(const std::string& nombreArchivo, OyenteXml& oyente) {
     if (!archivo) return false;
     const std::unique_ptr<xmlParserCtxt, SueltaContexto> contexto(xmlNewParserCtxt());
     if (!contexto) throw Fallo(7);
-    Analisis analisis{archivo.get(), oyente, nullptr, {}, false, {}, nullptr};
+    const Principio principio = LeePrincipio(archivo.get());
+    Analisis analisis{archivo.get(), oyente, principio.unidad};
+    if (!principio.esXml) {
+        NoEstaBienFormado(analisis, XML_ERR_DOCUMENT_EMPTY, 0);
+        motivo_ = analisis.motivo;
+        return false;
+    }
     const Vocabulario vocabulario(vocabulario_, contexto->dict);
     analisis.vocabulario = &vocabulario;
     const EscuchaFallos escucha(analisis);
     contexto->_private = &analisis;
     PonLlamadas(*contexto->sax);
-    xmlFreeDoc(xmlCtxtReadIO(contexto.get(), LeeTrozo, nullptr, &analisis, nullptr,
-                             CodificacionDeLaMarca(archivo.get()), XML_PARSE_NONET));
+    xmlFreeDoc(xmlCtxtReadIO(contexto.get(), LeeTrozo, nullptr, &analisis, nullptr, principio.codificacion,
+                             XML_PARSE_NONET));
     if (analisis.excepcion) std::rethrow_exception(analisis.excepcion);
-    if (analisis.demasiadosAtributos) analisis.Falla("una etiqueta tiene demasiados atributos");
     if (std::ferror(archivo.get()) != 0)
         motivo_ = Fallo(75).Description();
     else if (!analisis.motivo.empty())
