@@ -25,7 +25,7 @@ class Error : public Fallo {
 // message table's text, or "Se ha producido un error desconocido.".
 std::string TextoError(std::int32_t id, std::string_view texto, std::int32_t numero);
 
-// The innermost description of a chain of failures: what it was that went wrong, without who passed it on.
+// The innermost text of a chain of failures: what it was that went wrong, without who passed it on.
 std::string CausaDe(const std::string& descripcion);
 
 // Raises an Error with the number BASE_ERRORES + id, `texto` as its source and the text above. Called where

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "model/Mensajes.h"
 
 namespace zel::pruebas {
@@ -22,6 +24,25 @@ TEST(modErrorHandling, AddsTheTextOfEachLevelToTheChain) {
                   "Origen. Dentro. Error del sistema número: 91, falta");
     }
     EXPECT_EQ(TextoError(TEXTO_LIBRE, "X", 5), "X. Error del sistema número: 5, ");
+}
+
+TEST(modErrorHandling, FindsTheCauseAtTheEndOfTheChain) {
+    const auto cadena = [](const std::function<void()>& dentro) {
+        try {
+            try {
+                dentro();
+            } catch (...) {
+                LanzaError(TEXTO_LIBRE, "Fuera");
+            }
+        } catch (const Error& error) {
+            return CausaDe(error.Description());
+        }
+        return std::string();
+    };
+    EXPECT_EQ(cadena([] { throw Fallo(6, "No cabe, 1"); }), "No cabe, 1");
+    EXPECT_EQ(cadena([] { LanzaError(TEXTO_LIBRE, "El dato sobra"); }), "El dato sobra");
+    EXPECT_EQ(CausaDe("El dato sobra. Error del sistema número: 0, "), "El dato sobra");
+    EXPECT_EQ(CausaDe("Otra cosa"), "Otra cosa");
 }
 
 TEST(modErrorHandling, TakesTextsFromTheMessageTable) {
