@@ -144,14 +144,24 @@ TEST_F(ConEsquema, EventsComeWithTheirElementsAndMayBeAnswered) {
     EXPECT_NEAR(Elemento(1)->Lee("XPos").toFloat(), 20, 1);
 
     // What the host changes of the arguments is what the control goes on with.
-    const auto desvio = control->AlOcurrir("MouseDown", [](QVariantList& a) {
-        a[2] = 80;
+    const auto donde = std::make_shared<int>(80);
+    const auto desvio = control->AlOcurrir("MouseDown", [donde](QVariantList& a) {
+        a[2] = *donde;
         a[3] = 0;
     });
     QTest::mouseClick(Panel(), Qt::LeftButton, {}, En(20, 40));
     EXPECT_EQ(pulsado, 2);
     QObject::disconnect(desvio);
+    EXPECT_EQ(donde.use_count(), 1) << "what it held is let go";
+    QMetaObject::Connection unaVez;
+    unaVez = control->AlOcurrir("MouseDown", [&unaVez, donde](QVariantList&) {
+        QObject::disconnect(unaVez);
+        *donde += 1;
+    });
     QTest::mouseClick(Panel(), Qt::LeftButton, {}, En(20, 40));
+    QTest::mouseClick(Panel(), Qt::LeftButton, {}, En(20, 40));
+    EXPECT_EQ(*donde, 81);
+    EXPECT_EQ(donde.use_count(), 1);
     EXPECT_EQ(pulsado, 1);
 
     const Referencia barra = componentes.PorNombre(esquema->findChild<QWidget*>("ToolBar1"));

@@ -5,6 +5,17 @@
 
 namespace zel {
 
+// Says again, with values that a host by name understands, what a signal has said.
+class Repetidor : public QObject {
+    Q_OBJECT
+  public:
+    using QObject::QObject;
+
+  signals:
+    // Whoever hears it may change the values.
+    void Ocurrido(QVariantList& valores);
+};
+
 namespace {
 
 // Qt does not keep the type of an argument passed by reference, but its name.
@@ -17,29 +28,31 @@ QMetaType TipoDelArgumento(const QMetaMethod& senal, int i) {
 }
 
 // It takes any signal's arguments as Qt hands them to a slot, so that one class does for all.
-class Oyente : public QObject {
+class Oyente : public Repetidor {
   public:
-    Oyente(QObject* objeto, const QMetaMethod& senal, ObjetoPorNombre::Reaccion reaccion)
-        : QObject(objeto), senal_(senal), reaccion_(std::move(reaccion)) {}
+    Oyente(QObject* objeto, QMetaMethod senal) : Repetidor(objeto), senal_(std::move(senal)) {}
 
     static int Ranura() { return staticMetaObject.methodCount(); }
 
     int qt_metacall(QMetaObject::Call llamada, int metodo, void** argumentos) override {
-        const int propio = QObject::qt_metacall(llamada, metodo, argumentos);
+        const int propio = Repetidor::qt_metacall(llamada, metodo, argumentos);
         if (propio < 0 || llamada != QMetaObject::InvokeMetaMethod) return propio;
         if (propio == 0) Ocurre(argumentos + 1);
         return propio - 1;
     }
 
+  protected:
+    // The host listens no more.
+    void disconnectNotify(const QMetaMethod&) override { deleteLater(); }
+
   private:
-    void Ocurre(void** argumentos) const {
+    void Ocurre(void** argumentos) {
         // The reaction may destroy the object, and this with it.
-        const ObjetoPorNombre::Reaccion reaccion = reaccion_;
         const QMetaMethod senal = senal_;
         QVariantList valores;
         for (int i = 0; i < senal.parameterCount(); ++i)
             valores.push_back(HaciaFuera(QVariant(TipoDelArgumento(senal, i), argumentos[i])));
-        reaccion(valores);
+        emit Ocurrido(valores);
         const QList<QByteArray> tipos = senal.parameterTypes();
         for (int i = 0; i < senal.parameterCount(); ++i) {
             if (!tipos[i].endsWith('&')) continue;
@@ -51,7 +64,6 @@ class Oyente : public QObject {
     }
 
     QMetaMethod senal_;
-    ObjetoPorNombre::Reaccion reaccion_;
 };
 
 }  // namespace
@@ -62,8 +74,12 @@ QMetaObject::Connection Escucha(QObject* objeto, const QMetaMethod& senal,
     for (int i = 0; i < senal.parameterCount(); ++i) {
         if (!TipoDelArgumento(senal, i).isValid()) throw Fallo(13);
     }
-    auto* oyente = new Oyente(objeto, senal, std::move(reaccion));
-    return QMetaObject::connect(objeto, senal.methodIndex(), oyente, Oyente::Ranura(), Qt::DirectConnection);
+    auto* oyente = new Oyente(objeto, senal);
+    QMetaObject::connect(objeto, senal.methodIndex(), oyente, Oyente::Ranura(), Qt::DirectConnection);
+    // The reaction belongs to the connection that the host holds, and goes with it.
+    return QObject::connect(oyente, &Repetidor::Ocurrido, std::move(reaccion));
 }
 
 }  // namespace zel
+
+#include "Oyente.moc"
