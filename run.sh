@@ -14,8 +14,8 @@ cmake --build --preset release --target zelvisor
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     codigo=0
     build/release/apps/zelvisor/zelvisor "$esquema" || codigo=$?
-    # 134: the window system that the environment names does not answer.
-    [ "$codigo" -eq 134 ] || exit "$codigo"
+    # 3: the window system that the environment names does not answer.
+    [ "$codigo" -eq 3 ] || exit "$codigo"
 fi
 imagen=$PWD/salida/$(basename "${esquema%.*}").png
 mkdir -p salida

@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -28,6 +30,19 @@ bool HayPantalla(const zel::Argumentos& argumentos) {
 // The orders speak for themselves: what Qt has to say of a missing desktop is no news to their user.
 void CallaAvisos(QtMsgType tipo, const QMessageLogContext&, const QString& texto) {
     if (tipo == QtCriticalMsg || tipo == QtFatalMsg) std::cerr << texto.toStdString() << '\n';
+}
+
+int DiQueNoHayPantalla() {
+    std::cerr << "zelvisor: no hay pantalla en la que abrir la ventana, o no responde.\n"
+                 "Ejecútelo en una sesión gráfica, o dibuje el esquema en una imagen:\n"
+                 "  zelvisor exportar ENTRADA SALIDA.png\n";
+    return MAL_USO;
+}
+
+// While the window's program begins Qt has one reason to give up, a display that does not answer, and would
+// end it with a signal.
+void AlEmpezar(QtMsgType tipo, const QMessageLogContext&, const QString&) {
+    if (tipo == QtFatalMsg) _exit(DiQueNoHayPantalla());
 }
 
 // Logs go to the current directory; where nothing can be written there, to the user's own. The names of files
@@ -102,16 +117,13 @@ int main(int argc, char** argv) {
     if (argumentos.PideAnularRegistro()) return zel::AnulaRegistro(argumentos.ParaElSistema());
     const bool esOrden = !argumentos.Orden().isEmpty();
     // The orders draw without a display.
-    if (esOrden) {
+    if (esOrden)
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        qInstallMessageHandler(CallaAvisos);
-    } else if (!HayPantalla(argumentos)) {
-        std::cerr << "zelvisor: no hay pantalla en la que abrir la ventana.\n"
-                     "Ejecútelo en una sesión gráfica, o dibuje el esquema en una imagen:\n"
-                     "  zelvisor exportar ENTRADA SALIDA.png\n";
-        return MAL_USO;
-    }
+    else if (!HayPantalla(argumentos))
+        return DiQueNoHayPantalla();
+    qInstallMessageHandler(esOrden ? CallaAvisos : AlEmpezar);
     const QApplication programa(argc, argv);
+    if (!esOrden) qInstallMessageHandler(nullptr);
     QCoreApplication::setApplicationName(QStringLiteral("zelvisor"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZEL_VERSION));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Visor de esquemas"));

@@ -75,6 +75,8 @@ TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
     const std::string repetido = carpeta.Escribe(
         "repetido.xml",
         "<Esquema><Elemento><Tipo>10</Tipo></Elemento><Elemento><Tipo>10</Tipo></Elemento></Esquema>");
+    const std::string bandera = carpeta.Escribe(
+        "bandera.xml", "<Esquema><Elemento><NombreMovido>2</NombreMovido></Elemento></Esquema>");
     const struct {
         std::string orden;
         int codigo;
@@ -91,6 +93,8 @@ TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
         {"info .", 2, "no se puede leer \".\""},
         {"info " + roto, 2, "no está bien formado: en la línea 1, una etiqueta está sin cerrar"},
         {"convertir " + repetido + " otro.xml", 2, "verificar ARCHIVO --corregir OTRO"},
+        {"info " + bandera, 2,
+         "no se pueden cargar: Error en funcion I2B (lectorArchivo), argumento recibido: 2."},
         {"cuenca", 3, "\"cuenca\" no es una orden ni un archivo"},
         {"infor " + CUENCA, 3, "\"infor\" no es una orden"},
         {CUENCA + " --negro", 3, "no se conoce la opción \"negro\""},
@@ -105,6 +109,10 @@ TEST(Programa, WrongUseAndUnreadableFilesSayWhatToDo) {
         EXPECT_TRUE(Contiene(resultado.texto, caso.texto)) << caso.orden << ":\n" << resultado.texto;
         EXPECT_FALSE(std::filesystem::exists("salida.png")) << caso.orden;
     }
+    // A display that does not answer is as good as none.
+    const Resultado muda = Corre("env QT_QPA_PLATFORM=nada \"" ZEL_PROGRAMA "\" " + CUENCA);
+    EXPECT_EQ(muda.codigo, 3);
+    EXPECT_TRUE(muda.texto.starts_with("zelvisor: no hay pantalla")) << muda.texto;
 }
 
 }  // namespace
