@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "platform/Texto.h"
+
 namespace zel {
 
 namespace {
@@ -70,7 +72,7 @@ QString Describe(const Elemento& e) {
     const QString clase = tipo.empty() ? QStringLiteral("Elemento")
                                        : QString::fromUtf8(tipo.data(), static_cast<qsizetype>(tipo.size()));
     if (e.Nombre().empty()) return QStringLiteral("%1 (código %2)").arg(clase).arg(e.gfCodSIG());
-    return clase + QStringLiteral(" \"") + QString::fromStdString(e.Nombre()) + u'"';
+    return clase + QStringLiteral(" \"") + QString::fromStdString(EnBreve(e.Nombre())) + u'"';
 }
 
 }  // namespace zel

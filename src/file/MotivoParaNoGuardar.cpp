@@ -6,6 +6,7 @@
 
 #include "file/GuardadoSeguro.h"
 #include "file/LecturaDeEsquema.h"
+#include "platform/Texto.h"
 
 namespace zel {
 
@@ -20,7 +21,7 @@ struct Sitio {
 };
 
 std::string Describe(const Sitio& s) {
-    return "El elemento en la posición " + std::to_string(s.posicion) + ", \"" + s.e.Nombre() +
+    return "El elemento en la posición " + std::to_string(s.posicion) + ", \"" + EnBreve(s.e.Nombre()) +
            "\" (código " + std::to_string(s.e.gfCodSIG()) + "),";
 }
 
@@ -82,7 +83,8 @@ std::string MotivoParaNoGuardar(const Elementos& elementos) {
         const auto [otro, nuevo] = porCodigo.try_emplace(e->gfCodSIG(), s);
         if (!nuevo) {
             motivos.Anota(Describe(s) + " tiene el mismo código que el de la posición " +
-                          std::to_string(otro->second.posicion) + ", \"" + otro->second.e.Nombre() + "\"");
+                          std::to_string(otro->second.posicion) + ", \"" + EnBreve(otro->second.e.Nombre()) +
+                          "\"");
         }
     }
     return std::move(motivos).Texto();

@@ -5,6 +5,7 @@
 
 #include "file/LecturaDeEsquema.h"
 #include "platform/Numeros.h"
+#include "platform/Texto.h"
 #include "platform/Variante.h"
 
 namespace zel {
@@ -13,6 +14,7 @@ namespace {
 
 constexpr std::size_t ARCHIVO = 0;
 constexpr std::size_t OCULTA = 5;
+constexpr std::size_t RUTA_MAXIMA = 4096;
 
 // Whether the path, with either separator, is absolute or goes up.
 bool SaleDeLaCarpeta(std::string_view ruta) noexcept {
@@ -47,6 +49,10 @@ SeccionImagen InterpretaImagen(const SeccionLeida& leida, const std::string& car
         }
     }
     const std::string& archivo = *leida.textos[ARCHIVO];
+    if (archivo.size() > RUTA_MAXIMA) {
+        return NoSirve(std::move(seccion),
+                       "El nombre de la imagen de fondo es demasiado largo: \"" + EnBreve(archivo) + "\"");
+    }
     if (SaleDeLaCarpeta(archivo)) {
         return NoSirve(std::move(seccion), "La imagen de fondo \"" + archivo +
                                                "\" no está en la carpeta del esquema y no se abre");
@@ -63,7 +69,7 @@ SeccionImagen InterpretaImagen(const SeccionLeida& leida, const std::string& car
     } catch (const Fallo&) {
         return NoSirve(std::move(seccion),
                        "No se entiende un valor de la imagen de fondo: " + std::string(HIJOS_DE_IMAGEN[i]) +
-                           " = \"" + *leida.textos[i] + "\"");
+                           " = \"" + EnBreve(*leida.textos[i]) + "\"");
     }
 }
 

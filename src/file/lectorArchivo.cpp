@@ -7,6 +7,7 @@
 #include "model/TrazadoRecto.h"
 #include "platform/Archivos.h"
 #include "platform/Numeros.h"
+#include "platform/Texto.h"
 
 namespace zel {
 
@@ -14,11 +15,11 @@ namespace zel {
 // found well-formed.
 struct lectorArchivo::Lectura {
     std::vector<std::unique_ptr<Elemento>> elementos;
-    std::exception_ptr
-        fallo;  // of the first element that cannot be loaded; those behind it are not looked at
-    // Codes of the elements whose first and second traces have to be rebuilt.
-    std::vector<std::int32_t> sinTrazado;
-    std::vector<std::int32_t> sinTrazado2;
+    // Of the first element that cannot be loaded; those behind it are not looked at.
+    std::exception_ptr fallo;
+    // Elements of the collection whose first and second traces have to be rebuilt.
+    std::vector<std::shared_ptr<Elemento>> sinTrazado;
+    std::vector<std::shared_ptr<Elemento>> sinTrazado2;
 };
 
 namespace {
@@ -62,10 +63,6 @@ constexpr LecturaHijo HIJOS_LINEALES[] = {
     {Hijo::NudoOrigen, [](Elemento& e, std::string_view t) { e.ElemIni(LeeEntero32(t)); }},
 };
 
-void Apunta(std::vector<std::int32_t>& lista, std::int32_t codigo) {
-    if (codigo != 0) lista.push_back(codigo);
-}
-
 std::shared_ptr<Puntos> TrazadoEntre(const Elemento& desde, const Elemento& hasta) try {
     return TrazadoRecto(desde, hasta);
 } catch (...) {
@@ -80,6 +77,7 @@ void lectorArchivo::Carga() try {
     motivo_.clear();
     registro_.clear();
     sinCargar_.clear();
+    falloDelRegistro_.clear();
     esEsquema_ = false;
     secciones_.reset();
     if (!coleccion_) throw Fallo(91);
@@ -116,27 +114,34 @@ void lectorArchivo::Carga() try {
     esEsquema_ = documento.EsEsquema();
     if (documento.Elementos() == 0) return;
     Agrega(lectura);
-    RehaceTrazados(lectura.sinTrazado);
-    RehaceTrazados2(lectura.sinTrazado2);
+    RehaceTrazados(lectura);
     registro_ = TextoDelRegistro();
-    if (!registro_.empty()) EscribeRegistro("ErroresCarga.log", registro_);
+    if (!registro_.empty()) EscribeElRegistro();
 } catch (...) {
     LanzaError(TEXTO_LIBRE, "Lector:Carga ");
 }
 
+void lectorArchivo::EscribeElRegistro() try {
+    EscribeRegistro("ErroresCarga.log", registro_);
+} catch (const Fallo& fallo) {
+    falloDelRegistro_ = fallo.Description();
+    throw;
+}
+
 // Up to the first that fails.
-void lectorArchivo::Agrega(const Lectura& lectura) {
+void lectorArchivo::Agrega(Lectura& lectura) {
     for (const auto& e : lectura.elementos) {
         const auto otro = coleccion_->ItemCodSIG(e->gfCodSIG());
-        if (otro && admiteRepetidos_) {
-            coleccion_->AddObjetoElemento(*e, Variante(""));
-            continue;
+        const bool sinClave = otro && admiteRepetidos_;
+        if (otro && !sinClave) {
+            sinCargar_ = "\"" + EnBreve(otro->Nombre()) + "\" y \"" + EnBreve(e->Nombre()) +
+                         "\" tienen el mismo código, " + std::to_string(e->gfCodSIG());
         }
-        if (otro) {
-            sinCargar_ = "\"" + otro->Nombre() + "\" y \"" + e->Nombre() + "\" tienen el mismo código, " +
-                         std::to_string(e->gfCodSIG());
-        }
-        coleccion_->AddObjetoElemento(*e);
+        coleccion_->AddObjetoElemento(*e, sinClave ? std::optional(Variante("")) : std::nullopt);
+        if (e->gfCodSIG() == 0 || !EsLineal(e->Tipo())) continue;
+        const auto suyo = coleccion_->Item(coleccion_->Count());
+        if (!e->Trazado()) lectura.sinTrazado.push_back(suyo);
+        if (!e->Trazado2() && e->Tipo() == ctCentralHidroelectrica) lectura.sinTrazado2.push_back(suyo);
     }
     if (lectura.fallo) std::rethrow_exception(lectura.fallo);
 }
@@ -187,40 +192,22 @@ void lectorArchivo::LeeElemento(Lectura& lectura, std::int16_t posicion, const E
     if (EsLineal(e->Tipo())) {
         LeeHijos(leido, posicion, *e, HIJOS_LINEALES);
         if (EmpiezaEnSiMismo(e->Tipo()) && e->gfCodSIG() != 0) e->ElemIni(e->gfCodSIG());
-        LeeTrazados(lectura, posicion, leido, *e);
+        LeeTrazados(posicion, leido, *e);
     }
     lectura.elementos.push_back(std::move(e));
 }
 
-void lectorArchivo::LeeTrazados(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido,
-                                Elemento& e) {
-    if (e.Tipo() == ctCentralHidroelectrica) {
-        LeeTrazadosCentral(lectura, posicion, leido, e);
-        return;
-    }
-    if (!AsignaPropiedad(leido.De(Hijo::Linea).cuantos, Hijo::Linea, 1, posicion, false)) {
+void lectorArchivo::LeeTrazados(std::int16_t posicion, const ElementoLeido& leido, Elemento& e) {
+    const bool esCentral = e.Tipo() == ctCentralHidroelectrica;
+    if (!AsignaPropiedad(leido.De(Hijo::Linea).cuantos, Hijo::Linea, esCentral ? 2 : 1, posicion, false)) {
         textoErrores_ +=
-            SALTO + ("El elemento " + std::to_string(posicion)) + " no almacenó la propiedad de Trazado.";
-        Apunta(lectura.sinTrazado, e.gfCodSIG());
+            SALTO + ("El elemento " + std::to_string(posicion)) +
+            (esCentral ? " (central hidroeléctrica) no almacenó las propiedades de Trazado ni Trazado2."
+                       : " no almacenó la propiedad de Trazado.");
         return;
     }
-    e.Trazado(LeeTrazado(*leido.lineas[0], posicion, "trazado"));
-    if (!e.Trazado()) Apunta(lectura.sinTrazado, e.gfCodSIG());
-}
-
-void lectorArchivo::LeeTrazadosCentral(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido,
-                                       Elemento& e) {
-    if (!AsignaPropiedad(leido.De(Hijo::Linea).cuantos, Hijo::Linea, 2, posicion, false)) {
-        textoErrores_ += SALTO + ("El elemento " + std::to_string(posicion)) +
-                         " (central hidroeléctrica) no almacenó las propiedades de Trazado ni Trazado2.";
-        Apunta(lectura.sinTrazado, e.gfCodSIG());
-        Apunta(lectura.sinTrazado2, e.gfCodSIG());
-        return;
-    }
-    e.Trazado(LeeTrazado(*leido.lineas[0], posicion, "trazado 1"));
-    if (!e.Trazado()) Apunta(lectura.sinTrazado, e.gfCodSIG());
-    e.Trazado2(LeeTrazado(*leido.lineas[1], posicion, "trazado 2"));
-    if (!e.Trazado2()) Apunta(lectura.sinTrazado2, e.gfCodSIG());
+    e.Trazado(LeeTrazado(*leido.lineas[0], posicion, esCentral ? "trazado 1" : "trazado"));
+    if (esCentral) e.Trazado2(LeeTrazado(*leido.lineas[1], posicion, "trazado 2"));
 }
 
 // The trace of one Linea, or nothing when it cannot be read in full. `cual` names it in the log.
@@ -251,20 +238,13 @@ std::shared_ptr<Elemento> lectorArchivo::ElementoDe(std::int32_t codigo) const {
     return codigo == 0 ? nullptr : coleccion_->ItemCodSIG(codigo);
 }
 
-void lectorArchivo::RehaceTrazados(const std::vector<std::int32_t>& codigos) {
-    for (const std::int32_t codigo : codigos) {
-        const auto x = ElementoDe(codigo);
-        if (!x) continue;
-        auto desde = EmpiezaEnSiMismo(x->Tipo()) ? x : ElementoDe(x->ElemIni());
-        auto hasta = x->Tipo() == ctCentralHidroelectrica ? x : ElementoDe(x->ElemFin());
+void lectorArchivo::RehaceTrazados(const Lectura& lectura) {
+    for (const auto& x : lectura.sinTrazado) {
+        const auto desde = EmpiezaEnSiMismo(x->Tipo()) ? x : ElementoDe(x->ElemIni());
+        const auto hasta = x->Tipo() == ctCentralHidroelectrica ? x : ElementoDe(x->ElemFin());
         if (desde && hasta) x->Trazado(TrazadoEntre(*desde, *hasta));
     }
-}
-
-void lectorArchivo::RehaceTrazados2(const std::vector<std::int32_t>& codigos) {
-    for (const std::int32_t codigo : codigos) {
-        const auto x = ElementoDe(codigo);
-        if (!x || x->Tipo() != ctCentralHidroelectrica) continue;
+    for (const auto& x : lectura.sinTrazado2) {
         if (const auto hasta = ElementoDe(x->ElemFin())) x->Trazado2(TrazadoEntre(*x, *hasta));
     }
 }

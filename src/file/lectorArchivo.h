@@ -17,6 +17,9 @@
 
 namespace zel {
 
+// What the problems of a load begin with where they are told without the log, which could not be written.
+constexpr const char* SIN_REGISTRO = "No se ha podido escribir ErroresCarga.log";
+
 // Reads a schematic file into an element collection, and writes one. Reading is tolerant with what one
 // element lacks or repeats: it keeps the initial value, the problem goes to the load log, and a trace that
 // cannot be read is rebuilt as a straight one between the elements that it joins.
@@ -49,12 +52,14 @@ class lectorArchivo {
 
     // Of the last Carga: why the file could not be read at all (empty when it could), whether its root is
     // that of a schematic, and the text of its load log (empty when there was nothing to report). When Carga
-    // raises and there is a log text, all was read and only the log could not be written; when it raises for
-    // a code that two elements have, MotivoSinCargar tells which (empty otherwise).
+    // raises for a code that two elements have, MotivoSinCargar tells which (empty otherwise); when it raises
+    // because only the log could not be written, all has been read and FalloDelRegistro tells why (empty
+    // otherwise).
     const std::string& MotivoSinLeer() const noexcept { return motivo_; }
     bool EsEsquema() const noexcept { return esEsquema_; }
     const std::string& Registro() const noexcept { return registro_; }
     const std::string& MotivoSinCargar() const noexcept { return sinCargar_; }
+    const std::string& FalloDelRegistro() const noexcept { return falloDelRegistro_; }
 
     // The texts of the background picture's section, by the names of its children; Archivo comes with the
     // document's folder in front. Nothing when the file cannot be read or has no such section; where a child
@@ -93,13 +98,12 @@ class lectorArchivo {
     template <typename Tabla>
     void LeeHijos(const ElementoLeido& leido, std::int16_t posicion, Elemento& e, const Tabla& tabla);
     void LeeElemento(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido);
-    void LeeTrazados(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido, Elemento& e);
-    void LeeTrazadosCentral(Lectura& lectura, std::int16_t posicion, const ElementoLeido& leido, Elemento& e);
+    void LeeTrazados(std::int16_t posicion, const ElementoLeido& leido, Elemento& e);
     std::shared_ptr<Puntos> LeeTrazado(const std::vector<PuntoLeido>& linea, std::int16_t posicion,
                                        const std::string& cual);
-    void Agrega(const Lectura& lectura);
-    void RehaceTrazados(const std::vector<std::int32_t>& codigos);
-    void RehaceTrazados2(const std::vector<std::int32_t>& codigos);
+    void Agrega(Lectura& lectura);
+    void RehaceTrazados(const Lectura& lectura);
+    void EscribeElRegistro();
     std::shared_ptr<Elemento> ElementoDe(std::int32_t codigo) const;
     std::string TextoDelRegistro() const;
 
@@ -132,6 +136,7 @@ class lectorArchivo {
     bool admiteRepetidos_ = false;
     std::string registro_;
     std::string sinCargar_;
+    std::string falloDelRegistro_;
     std::optional<Secciones> secciones_;
 
     std::optional<EscritorXml> documento_;  // the one being written

@@ -53,6 +53,18 @@ void AgregaCaracter(std::string& texto, char32_t caracter) {
     }
 }
 
+std::string EnBreve(std::string_view texto) {
+    constexpr int MAXIMO = 60;
+    std::string breve;
+    std::size_t i = 0;
+    for (int n = 0; i < texto.size() && n < MAXIMO; ++n) {
+        const std::size_t desde = i;
+        const bool esControl = SiguienteCaracter(texto, i) < U' ';
+        breve += esControl ? std::string_view(" ") : texto.substr(desde, i - desde);
+    }
+    return i < texto.size() ? breve + "..." : breve;
+}
+
 std::string Latin1(std::string_view texto) {
     std::string latin1;
     latin1.reserve(texto.size());

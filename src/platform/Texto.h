@@ -30,6 +30,9 @@ std::string EnMinusculas(std::string_view texto);
 // The character in UTF-8, at the end of the text.
 void AgregaCaracter(std::string& texto, char32_t caracter);
 
+// On one line and of some 60 characters at most, for a message that names something.
+std::string EnBreve(std::string_view texto);
+
 // In ISO-8859-1; a character outside it becomes "?".
 std::string Latin1(std::string_view texto);
 

@@ -295,6 +295,17 @@ TEST_F(Guardado, RefusesWhatWouldNotOpenAgainAndNamesTheElements) {
             "de la posición 6, \"malo\". El elemento en la posición 10, \"Acequia\" (código 20), tiene "
             "un trazado de menos de dos puntos");
     }
+    malo->Item(2)->XPos(0);
+    malo->Item(6)->gfCodSIG(6);
+    malo->Item(10)->Nombre(std::string(59, 'x') + "ñ\n" + std::string(11'000'000, 'x'));
+    try {
+        Guarda(ruta_, malo);
+        FAIL() << "saved";
+    } catch (const Fallo& fallo) {
+        EXPECT_TRUE(fallo.Description().ends_with(", \"" + std::string(59, 'x') +
+                                                  "ñ...\" (código 20), tiene un nombre demasiado largo"))
+            << fallo.Description().substr(0, 200);
+    }
     const auto muchos = Muestra("m", 32767);
     EXPECT_EQ(Intenta(carpeta_ / "muchos.xml", muchos), "0");
     muchos->Add(ctNudo, "m", 32768, 1, 0, 0, 0, 0, nullptr, nullptr, "k", 0, 0);

@@ -244,6 +244,13 @@ TEST_F(Lector, RebuildsTheTracesThatItCannotRead) {
     }
 }
 
+TEST_F(Lector, RebuildsTheTraceOfTheElementThatLacksItAndNotItsTwins) {
+    lector_.AdmiteCodigosRepetidos(true);
+    Carga({Xml(7, 50).Une(2, 3).Con(LINEA), Xml(7, 50).Une(2, 3), Xml(2, 10), Xml(3, 10, 100)});
+    EXPECT_EQ(De(elementos_->Item(1)->Trazado()), LEIDO);
+    EXPECT_EQ(De(elementos_->Item(2)->Trazado()), (Camino{{4.0F, 0.0F}, {96.0F, 0.0F}}));
+}
+
 TEST_F(Lector, StopsAtAValueThatIsOutOfRangeAndKeepsWhatItHasRead) {
     carpeta_.Escribe("ErroresCarga.log", "viejo");
     const struct {
@@ -269,6 +276,9 @@ TEST_F(Lector, StopsAtAValueThatIsOutOfRangeAndKeepsWhatItHasRead) {
         EXPECT_EQ(elementos_->Count(), 1);
     }
     EXPECT_NE(ErrorDeCarga({"<Elemento/>", "<Elemento/>"}).find("457"), std::string::npos);
+    ErrorDeCarga({Xml(9, 10).Pon("Nombre", std::string(9999, 'x')), Xml(9, 10).Pon("Nombre", "a\nb")});
+    EXPECT_EQ(lector_.MotivoSinCargar(),
+              "\"" + std::string(60, 'x') + "...\" y \"a b\" tienen el mismo código, 9");
     EXPECT_EQ(Log(), "viejo");
 }
 
@@ -290,6 +300,7 @@ TEST_F(Lector, RaisesWhenTheLogCannotBeWrittenOrThereIsNoCollection) {
     std::filesystem::create_directory(carpeta_ / "ErroresCarga.log");
     EXPECT_NE(ErrorDeCarga({Xml(1, 10).Quita("Valor")}).find("número: 75,"), std::string::npos);
     EXPECT_EQ(elementos_->Count(), 1);
+    EXPECT_EQ(lector_.FalloDelRegistro(), "No se puede acceder al archivo o a la carpeta");
     lector_.Coleccion(nullptr);
     EXPECT_NE(ErrorDeCarga({Xml(2, 10)}).find("número: 91,"), std::string::npos);
 }
