@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "file/lectorArchivo.h"
+#include "platform/qt/LectorDeImagen.h"
 
 namespace zel {
 
@@ -15,12 +16,24 @@ EsquemaLeido NoLeido(std::string motivo, std::string remedio = COMPRUEBE_EL_ARCH
     return leido;
 }
 
+// A picture that is not there, or is none, is no reason to change what the file says of it.
+void DejaLaQueNoSeVe(SeccionImagen& seccion, std::string& problemas) {
+    if (seccion.imagen) {
+        const std::string motivo = LeeImagen(seccion.imagen->Archivo).motivo;
+        if (motivo.empty()) return;
+        seccion.motivo =
+            "La imagen de fondo \"" + seccion.imagen->Archivo + "\" no se puede mostrar: " + motivo;
+        seccion.imagen.reset();
+    }
+    problemas += "\r\n" + seccion.motivo;
+}
+
 // What is not understood of these sections is no reason to refuse the schematic; it is told.
 void LeeSecciones(lectorArchivo& lector, EsquemaLeido& leido) {
     // Absolute, so that the picture's path is whole wherever the schematic is saved to.
     lector.NombreArchivo(std::filesystem::absolute(lector.NombreArchivo()).string());
     leido.imagen = lector.LeeSeccionImagen();
-    if (leido.imagen && !leido.imagen->imagen) leido.problemas += "\r\n" + leido.imagen->motivo;
+    if (leido.imagen) DejaLaQueNoSeVe(*leido.imagen, leido.problemas);
     const auto ajustes = lector.LeeConfiguracion();
     if (!ajustes || ajustes->Count() == 0) return;
     try {

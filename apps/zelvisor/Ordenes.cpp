@@ -12,6 +12,7 @@
 #include "file/GuardadoSeguro.h"
 #include "model/Verificador.h"
 #include "platform/Numeros.h"
+#include "platform/Texto.h"
 #include "platform/qt/LectorDeImagen.h"
 #include "platform/qt/Rutas.h"
 #include "session/Extension.h"
@@ -46,8 +47,9 @@ void EscribeProblemas(const std::string& problemas) {
 bool GuardaODilo(const EsquemaLeido& leido, const QString& salida) {
     try {
         const ImagenQueGuardar imagen = leido.imagen ? ImagenQueGuardar(*leido.imagen) : ImagenQueGuardar();
-        const std::string aviso = GuardaConSeguridad(RutaDe(salida), leido.elementos, imagen,
-                                                     leido.bMostrarLineasOcultas, EsImagen);
+        const std::string aviso =
+            GuardaConSeguridad(RutaDe(salida), leido.elementos, imagen, leido.bMostrarLineasOcultas, EsImagen)
+                .aviso;
         if (!aviso.empty()) std::cout << aviso << ".\n";
         return true;
     } catch (const Fallo& fallo) {
@@ -59,7 +61,7 @@ bool GuardaODilo(const EsquemaLeido& leido, const QString& salida) {
 
 void EscribeHallazgo(const HallazgoIntegridad& hallazgo) {
     std::cout << "  posición " << hallazgo.Posicion << ", código " << hallazgo.Codigo << ", \""
-              << hallazgo.Nombre << "\": " << hallazgo.Problema;
+              << EnBreve(hallazgo.Nombre) << "\": " << hallazgo.Problema;
     if (!hallazgo.Correccion.empty()) std::cout << " -> " << hallazgo.Correccion;
     std::cout << '\n';
 }

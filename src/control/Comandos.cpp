@@ -190,8 +190,10 @@ void Comandos::ArchivoGuardar(const std::string& archNombre) try {
     ExigeLibre();
     estados_.Estado(E_PREPARADO, 1);
     ApartaSinLeer(archNombre);
-    avisoDeImagen_ = GuardaConSeguridad(archNombre, documento_.colElementos, imagen_.Guardada(),
-                                        documento_.bMostrarLineasOcultas, EsImagen);
+    ImagenYaGuardada guardada = GuardaConSeguridad(archNombre, documento_.colElementos, imagen_.Guardada(),
+                                                   documento_.bMostrarLineasOcultas, EsImagen);
+    imagen_.Guardada(std::move(guardada.ruta));
+    avisoDeImagen_ = std::move(guardada.aviso);
     documento_.bHabidoCambios = false;
     estados_.Estado(E_PREPARADO, 1);
     refresco_.PedirRefresco();

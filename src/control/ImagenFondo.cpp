@@ -141,6 +141,7 @@ bool ImagenFondo::Elige() {
     const std::string motivo = Carga(ruta);
     if (motivo.empty()) {
         sArchivoImagenFondo_ = ruta;
+        copia_.clear();
         OlvidaLaDelArchivo();
         documento_.bHabidoCambios = true;
         PonTamanyoInicial();
@@ -225,6 +226,7 @@ void ImagenFondo::AplicaSeccion(const std::optional<SeccionImagen>& seccion) {
     if (!seccion) return;
     if (const auto& imagen = seccion->imagen) {
         sArchivoImagenFondo_ = imagen->Archivo;
+        copia_.clear();
         ImagenX0_ = imagen->X0;
         ImagenY0_ = imagen->Y0;
         ImagenLX_ = imagen->LX;
@@ -246,8 +248,12 @@ void ImagenFondo::AplicaSeccion(const std::optional<SeccionImagen>& seccion) {
 ImagenQueGuardar ImagenFondo::Guardada() const {
     if (delArchivo_) return *delArchivo_;
     if (!bHayImagenFondo_) return std::nullopt;
-    return ImagenGuardada{sArchivoImagenFondo_, ImagenX0_,           ImagenY0_, ImagenLX_,
-                          ImagenPropYX_,        bOcultarImagenFondo_};
+    return ImagenGuardada{sArchivoImagenFondo_, ImagenX0_, ImagenY0_, ImagenLX_, ImagenPropYX_,
+                          bOcultarImagenFondo_, copia_};
+}
+
+void ImagenFondo::Guardada(std::string copia) {
+    if (!copia.empty()) copia_ = std::move(copia);
 }
 
 Fondo ImagenFondo::FondoDelPanel() const {

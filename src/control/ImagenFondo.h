@@ -39,8 +39,10 @@ class ImagenFondo {
     void AplicaSeccion(const std::optional<SeccionImagen>& seccion);
     // Why the picture of the file that was opened last is not shown; empty when it is, or there is none.
     const std::string& Motivo() const noexcept { return motivo_; }
-    // For the file.
+    // For the file, and where that has left the picture, or nothing: it stands in for the one that was
+    // chosen.
     ImagenQueGuardar Guardada() const;
+    void Guardada(std::string copia);
     // For the paint; no picture when there is none or it is hidden.
     Fondo FondoDelPanel() const;
 
@@ -74,6 +76,7 @@ class ImagenFondo {
     bool bHayImagenFondo_ = false;
     bool bOcultarImagenFondo_ = false;
     std::string sArchivoImagenFondo_;
+    std::string copia_;  // beside the schematic, since the last save
     double ImagenX0_ = 0;
     double ImagenY0_ = 0;
     double ImagenLX_ = 0;

@@ -43,13 +43,26 @@ bool SonIguales(const std::string& a, const std::string& b) {
 }  // namespace
 
 CopiaDeImagen::CopiaDeImagen(const std::string& imagen, const std::string& nombre, const std::string& esquema,
-                             const PruebaDeImagen& esImagen) noexcept
-    : nombre_(nombre) {
+                             const PruebaDeImagen& esImagen, const std::string& suplente) noexcept
+    : carpeta_(CarpetaDe(esquema)), nombre_(nombre) {
     try {
         Copia(imagen, nombre, esquema, esImagen);
     } catch (...) {
         aviso_ = "No se ha podido copiar la imagen de fondo \"" + imagen +
                  "\" a la carpeta del esquema: " + FalloEnCurso().Description();
+    }
+    if (!aviso_.empty() && !suplente.empty()) CopiaSuplente(suplente, esquema, esImagen);
+}
+
+// The name that an earlier save has written is kept, whatever has become of the file.
+void CopiaDeImagen::CopiaSuplente(const std::string& suplente, const std::string& esquema,
+                                  const PruebaDeImagen& esImagen) {
+    std::error_code error;
+    try {
+        Copia(suplente, fs::path(suplente).filename().string(), esquema, esImagen);
+        if (fs::is_regular_file(suplente, error)) aviso_.clear();
+    } catch (...) {
+        return;  // what has to be told is why there is no original
     }
 }
 
@@ -60,28 +73,28 @@ CopiaDeImagen::~CopiaDeImagen() {
 
 void CopiaDeImagen::Copia(const std::string& imagen, const std::string& nombre, const std::string& esquema,
                           const PruebaDeImagen& esImagen) {
-    const std::string carpeta = CarpetaDe(esquema);
-    if (EstaEnLaCarpeta(imagen, carpeta)) return;
+    nombre_ = nombre;
+    if (EstaEnLaCarpeta(imagen, carpeta_)) return;
     // What it can be called: the name of the same picture, or else one that nothing has.
     const auto libre = [&](int n) {
-        const std::string ruta = carpeta + NombreNumero(nombre, n);
+        const std::string ruta = carpeta_ + NombreNumero(nombre, n);
         return ruta != esquema && !fs::exists(fs::symlink_status(ruta));
     };
     int n = 1;
     for (; n < MAXIMO_DE_NOMBRES && !libre(n); ++n) {
         nombre_ = NombreNumero(nombre, n);
-        if (carpeta + nombre_ != esquema && SonIguales(imagen, carpeta + nombre_)) return;
+        if (carpeta_ + nombre_ != esquema && SonIguales(imagen, carpeta_ + nombre_)) return;
     }
     nombre_ = NombreNumero(nombre, n);
-    CopiaSinReemplazo copia(imagen, carpeta + nombre_);
+    CopiaSinReemplazo copia(imagen, carpeta_ + nombre_);
     if (esImagen && !esImagen(copia.Temporal())) throw Fallo(5, "no es una imagen");
-    while (!copia.Confirma(carpeta + nombre_)) {
+    while (!copia.Confirma(carpeta_ + nombre_)) {
         do {
             if (++n == MAXIMO_DE_NOMBRES) throw Fallo(75);
         } while (!libre(n));
         nombre_ = NombreNumero(nombre, n);
     }
-    hecha_ = carpeta + nombre_;
+    hecha_ = carpeta_ + nombre_;
 }
 
 }  // namespace zel

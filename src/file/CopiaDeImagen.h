@@ -14,10 +14,10 @@ using PruebaDeImagen = std::function<bool(const std::string& archivo)>;
 class CopiaDeImagen {
   public:
     // Makes the copy beside `esquema`, under `nombre` if it can; of a picture that is beside it already, or
-    // that has no folder, there is none to make. With `esImagen`, only what passes it is copied. Never
-    // raises.
+    // that has no folder, there is none to make. With `esImagen`, only what passes it is copied. Where
+    // `imagen` cannot be had, `suplente` stands in for it under its own name, if there is one. Never raises.
     CopiaDeImagen(const std::string& imagen, const std::string& nombre, const std::string& esquema,
-                  const PruebaDeImagen& esImagen = {}) noexcept;
+                  const PruebaDeImagen& esImagen = {}, const std::string& suplente = {}) noexcept;
     CopiaDeImagen(const CopiaDeImagen&) = delete;
     CopiaDeImagen& operator=(const CopiaDeImagen&) = delete;
     // A copy that nobody has kept goes again.
@@ -25,6 +25,8 @@ class CopiaDeImagen {
 
     // What the schematic calls it. A picture that could not be copied keeps a name that is nobody else's.
     const std::string& Nombre() const noexcept { return nombre_; }
+    // Where the picture is now; empty when it could not be copied.
+    std::string Ruta() const { return aviso_.empty() ? carpeta_ + nombre_ : std::string(); }
     // Why there is no copy (Spanish, a sentence without its point); empty when there is one, or no need.
     const std::string& Aviso() const noexcept { return aviso_; }
     void Conserva() noexcept { hecha_.clear(); }
@@ -32,7 +34,10 @@ class CopiaDeImagen {
   private:
     void Copia(const std::string& imagen, const std::string& nombre, const std::string& esquema,
                const PruebaDeImagen& esImagen);
+    void CopiaSuplente(const std::string& suplente, const std::string& esquema,
+                       const PruebaDeImagen& esImagen);
 
+    std::string carpeta_;  // of the schematic
     std::string nombre_;
     std::string aviso_;
     std::string hecha_;  // the path of the copy

@@ -17,9 +17,9 @@ bool NoLoSabe(const std::string&) noexcept {
 
 }  // namespace
 
-std::string GuardaConSeguridad(const std::string& ruta, const std::shared_ptr<Elementos>& elementos,
-                               const ImagenQueGuardar& imagen, bool bMostrarLineasOcultas,
-                               const PruebaDeImagen& esImagen) {
+ImagenYaGuardada GuardaConSeguridad(const std::string& ruta, const std::shared_ptr<Elementos>& elementos,
+                                    const ImagenQueGuardar& imagen, bool bMostrarLineasOcultas,
+                                    const PruebaDeImagen& esImagen) {
     if (!elementos) throw Fallo(91);
     if (const std::string motivo = MotivoParaNoGuardar(*elementos); !motivo.empty()) throw Fallo(5, motivo);
     ReemplazoDeArchivo reemplazo(ruta);
@@ -34,17 +34,20 @@ std::string GuardaConSeguridad(const std::string& ruta, const std::shared_ptr<El
     if (imagen.imagen) {
         const ImagenGuardada& i = *imagen.imagen;
         copia.emplace(i.Archivo, NombreDeArchivo(i.Archivo), reemplazo.Destino(),
-                      esImagen ? esImagen : NoLoSabe);
-        escritor.EscribeImagenFondo(copia->Nombre(), i.X0, i.Y0, i.LX, i.LY, i.Oculta);
-    } else if (!imagen.textos.empty()) {
-        escritor.EscribeImagenFondo(imagen.textos);
+                      esImagen ? esImagen : NoLoSabe, i.Copia);
+        if (copia->Aviso().empty() || imagen.textos.empty())
+            escritor.EscribeImagenFondo(copia->Nombre(), i.X0, i.Y0, i.LX, i.LY, i.Oculta);
     }
+    // Each of the sections is written once: this one, where there is no other.
+    if (!imagen.textos.empty() && (!copia || !copia->Aviso().empty()))
+        escritor.EscribeImagenFondo(imagen.textos);
     escritor.EscribeConfiguracion(bMostrarLineasOcultas);
     escritor.GuardaDocumento();
     reemplazo.Confirma();
     if (!copia) return {};
     copia->Conserva();
-    return copia->Aviso();
+    std::error_code error;
+    return {std::filesystem::absolute(copia->Ruta(), error).string(), copia->Aviso()};
 }
 
 }  // namespace zel

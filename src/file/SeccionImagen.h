@@ -14,6 +14,7 @@ struct ImagenGuardada {
     double X0 = 0, Y0 = 0;
     double LX = 0, LY = 0;
     bool Oculta = false;
+    std::string Copia{};  // a copy of it, for when it is gone; empty when there is none
 };
 
 // The picture's section of a file: its children with their texts, in their order, and what they say.

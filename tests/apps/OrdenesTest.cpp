@@ -40,6 +40,20 @@ TEST(Ordenes, APictureThatIsNotTheSchematicsIsNeitherFollowedNorForgotten) {
     EXPECT_EQ(convertido.codigo, 0) << convertido.texto;
     EXPECT_TRUE(Contiene(LeeArchivo("otra/b.xml"), seccion)) << LeeArchivo("otra/b.xml");
     EXPECT_FALSE(fs::exists("otra/secreto.png"));
+    // One that is not there any more, where another has its name and where none has.
+    const std::string falta =
+        "<ImagenFondo><Archivo>fondos/mapa.png</Archivo><X0>1,50</X0><Y0>2</Y0><LX>3</LX><LY>1</LY>"
+        "<Oculta>Falso</Oculta></ImagenFondo>";
+    carpeta.Escribe("red/c.xml", "<Esquema><Elementos/>" + falta + "</Esquema>");
+    carpeta.Escribe("otra/mapa.png", "de otro");
+    for (const char* orden : {"convertir red/c.xml red/d.xml", "convertir red/c.xml otra/d.xml",
+                              "verificar red/c.xml --corregir red/d.xml"}) {
+        EXPECT_TRUE(Contiene(Ejecuta(orden).texto, "fondos/mapa.png\" no se puede mostrar")) << orden;
+        const std::string salida = std::string(orden).substr(std::string(orden).rfind(' ') + 1);
+        EXPECT_TRUE(Contiene(LeeArchivo(salida), falta)) << orden << LeeArchivo(salida);
+        fs::remove(salida);
+    }
+    EXPECT_TRUE(Contiene(Ejecuta("info red/c.xml").texto, "mapa.png\" no se puede mostrar"));
     for (const char* orden : {"info red/a.xml", "verificar red/a.xml", "exportar red/a.xml red/a.png"})
         EXPECT_EQ(Ejecuta(orden).codigo, 0) << orden;
 }

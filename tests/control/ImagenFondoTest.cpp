@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QLineEdit>
+#include <fstream>
 
 #include "control/EnVentana.h"
 
@@ -147,6 +148,30 @@ TEST_F(ImagenFondo, ItGoesWithTheFileHiddenOrRemoved) {
     abre("con.xml", false, true);
     esquema.ArchivoAbrir(u"con.xml"_s);
     EXPECT_TRUE(esquema.AvisoDeImagen().contains(u"plano.bmp"_s)) << esquema.AvisoDeImagen().toStdString();
+}
+
+TEST_F(ImagenFondo, TheCopyOfTheLastSaveStandsInForAPictureThatIsGone) {
+    for (const char* nombre : {"usb", "uno", "otro"})
+        fs::create_directory(nombre);
+    std::ofstream("uno/plano.bmp") << "de otro";
+    Escoge(Pinta("usb/plano.bmp", {100, 50}));
+    Pulsa("cmdImagenFondoAceptar");
+    const auto guarda = [&](const char* archivo) {
+        esquema.ArchivoGuardar(QString::fromLatin1(archivo));
+        EXPECT_EQ(esquema.AvisoDeImagen(), QString()) << archivo;
+        return LeeArchivo(archivo);
+    };
+    const std::string antes = guarda("uno/a.xml");
+    EXPECT_NE(antes.find("<Archivo>plano-2.bmp<"), std::string::npos) << antes;
+    fs::remove_all("usb");
+    EXPECT_EQ(guarda("uno/a.xml"), antes);
+    EXPECT_EQ(guarda("otro/b.xml"), antes);
+    fs::remove_all("uno");
+    EXPECT_EQ(guarda("otro/b.xml"), antes);
+    fs::remove("otro/plano-2.bmp");
+    esquema.ArchivoGuardar(u"otro/b.xml"_s);
+    EXPECT_NE(esquema.AvisoDeImagen(), QString());
+    EXPECT_EQ(LeeArchivo("otro/b.xml"), antes) << "its name is kept for it";
 }
 
 TEST_F(ImagenFondo, AScannedMapOfManyPixelsIsTaken) {

@@ -21,7 +21,8 @@ class ImagenAlGuardar : public ::testing::Test {
     // Saves with that picture; what has to be told.
     std::string Guarda(const std::string& nombre, const std::string& imagen) const {
         return GuardaConSeguridad(carpeta_ / nombre, std::make_shared<Elementos>(),
-                                  ImagenGuardada{imagen, 1, 2, 3, 4, false}, true, EsPng);
+                                  ImagenGuardada{imagen, 1, 2, 3, 4, false}, true, EsPng)
+            .aviso;
     }
     std::optional<SeccionImagen> Lee(const std::string& nombre) const {
         lectorArchivo lector;
@@ -96,8 +97,9 @@ TEST_F(ImagenAlGuardar, ASectionThatCannotBeUsedIsKeptAsItWas) {
         ASSERT_TRUE(leida && !leida->imagen) << xml;
         EXPECT_NE(leida->motivo.find(motivo), std::string::npos) << leida->motivo;
         fs::create_directory(carpeta_ / "lejos");
-        EXPECT_EQ(GuardaConSeguridad(carpeta_ / "lejos/b.xml", std::make_shared<Elementos>(), *leida, true),
-                  "");
+        EXPECT_EQ(
+            GuardaConSeguridad(carpeta_ / "lejos/b.xml", std::make_shared<Elementos>(), *leida, true).aviso,
+            "");
         const auto vuelta = Lee("lejos/b.xml");
         ASSERT_TRUE(vuelta) << xml;
         EXPECT_EQ(vuelta->textos, leida->textos) << xml;
