@@ -3,18 +3,12 @@
 #include <filesystem>
 
 #include "file/lectorArchivo.h"
+#include "platform/Texto.h"
 #include "platform/qt/LectorDeImagen.h"
 
 namespace zel {
 
 namespace {
-
-EsquemaLeido NoLeido(std::string motivo, std::string remedio = COMPRUEBE_EL_ARCHIVO) {
-    EsquemaLeido leido;
-    leido.motivo = std::move(motivo);
-    leido.remedio = std::move(remedio);
-    return leido;
-}
 
 // A picture that is not there, or is none, is no reason to change what the file says of it.
 void DejaLaQueNoSeVe(SeccionImagen& seccion, std::string& problemas) {
@@ -39,11 +33,24 @@ void LeeSecciones(lectorArchivo& lector, EsquemaLeido& leido) {
     try {
         leido.bMostrarLineasOcultas = Variante(ajustes->Item(1)).Booleano();
     } catch (const Fallo&) {
-        leido.problemas += "\r\nNo se entiende el valor de VerLineasSecundarias: " + ajustes->Item(1);
+        leido.problemas +=
+            "\r\nNo se entiende el valor de VerLineasSecundarias: " + EnBreve(ajustes->Item(1));
     }
 }
 
 }  // namespace
+
+Impedimento PorQueNoSeAbre(const std::string& sinLeer, const std::optional<std::string>& fallo) {
+    if (!fallo) return {sinLeer, "Compruebe la ruta y que el archivo es un esquema en XML."};
+    if (!sinLeer.empty()) {
+        return {
+            sinLeer,
+            "Corríjalo desde una terminal con \"zelvisor verificar ARCHIVO --corregir OTRO\" y abra el que "
+            "resulta."};
+    }
+    return {"contiene datos que no se pueden cargar: " + CausaDe(*fallo),
+            "Compruebe los datos del archivo, o recupere una copia anterior."};
+}
 
 EsquemaLeido LeeEsquema(const std::string& ruta, CodigosRepetidos repetidos) {
     lectorArchivo lector;
@@ -51,23 +58,23 @@ EsquemaLeido LeeEsquema(const std::string& ruta, CodigosRepetidos repetidos) {
     lector.NombreArchivo(ruta);
     lector.Coleccion(elementos);
     lector.AdmiteCodigosRepetidos(repetidos == CodigosRepetidos::SeAdmiten);
-    bool conRegistro = true;
+    EsquemaLeido leido;
+    std::optional<std::string> fallo;
     try {
         lector.Carga();
     } catch (const Error& error) {
-        if (!lector.MotivoSinCargar().empty()) return NoLeido(lector.MotivoSinCargar(), CORRIJA_LOS_CODIGOS);
-        if (lector.Registro().empty()) {
-            return NoLeido("contiene datos que no se pueden cargar: " + CausaDe(error.Description()),
-                           "Compruebe los datos del archivo, o recupere una copia anterior.");
-        }
-        conRegistro = false;
+        if (lector.FalloDelRegistro().empty()) fallo = error.Description();
     }
-    if (!lector.MotivoSinLeer().empty()) return NoLeido(lector.MotivoSinLeer());
-    if (elementos->Count() == 0 && !lector.EsEsquema()) return NoLeido("no es un esquema");
-    EsquemaLeido leido;
+    std::string sinLeer = fallo ? lector.MotivoSinCargar() : lector.MotivoSinLeer();
+    if (!fallo && elementos->Count() == 0 && sinLeer.empty() && !lector.EsEsquema())
+        sinLeer = "no es un esquema";
+    if (fallo || !sinLeer.empty()) {
+        leido.impedimento = PorQueNoSeAbre(sinLeer, fallo);
+        return leido;
+    }
     leido.elementos = elementos;
     leido.problemas = lector.Registro();
-    leido.conRegistro = conRegistro && !leido.problemas.empty();
+    leido.conRegistro = lector.FalloDelRegistro().empty() && !leido.problemas.empty();
     LeeSecciones(lector, leido);
     return leido;
 }

@@ -9,11 +9,20 @@
 
 namespace zel {
 
+// Why a schematic is not opened, and what to do about it; in words for the user.
+struct Impedimento {
+    std::string motivo;   // the end of a sentence, without its point
+    std::string remedio;  // sentences of its own
+};
+
+// From what a load has said: the reader's own reason, and the description of what it has raised, if it has.
+Impedimento PorQueNoSeAbre(const std::string& sinLeer,
+                           const std::optional<std::string>& fallo = std::nullopt);
+
 // What came of reading a schematic file.
 struct EsquemaLeido {
     std::shared_ptr<Elementos> elementos;  // empty when the file could not be read
-    std::string motivo;                    // why not, in words for the user
-    std::string remedio;                   // what to do about it
+    Impedimento impedimento;               // why not
     std::string problemas;                 // what was missing or repeated, a line each
     bool conRegistro = false;              // they are in the load log too
     std::optional<SeccionImagen> imagen;   // the sections beside the elements
@@ -24,10 +33,5 @@ struct EsquemaLeido {
 enum class CodigosRepetidos { SeRechazan, SeAdmiten };
 
 EsquemaLeido LeeEsquema(const std::string& ruta, CodigosRepetidos repetidos = CodigosRepetidos::SeRechazan);
-
-// What to do about a file that cannot be opened, and about one with codes that are repeated.
-constexpr const char* COMPRUEBE_EL_ARCHIVO = "Compruebe la ruta y que el archivo es un esquema en XML.";
-constexpr const char* CORRIJA_LOS_CODIGOS =
-    "Corríjalo desde una terminal con \"zelvisor verificar ARCHIVO --corregir OTRO\" y abra el que resulta.";
 
 }  // namespace zel

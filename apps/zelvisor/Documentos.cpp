@@ -9,6 +9,7 @@
 #include "Recientes.h"
 #include "control/Esquema.h"
 #include "file/lectorArchivo.h"
+#include "platform/Texto.h"
 #include "platform/qt/Rutas.h"
 
 namespace zel {
@@ -30,9 +31,26 @@ class CursorDeEspera {
     ~CursorDeEspera() { QApplication::restoreOverrideCursor(); }
 };
 
-bool NoSeAbre(const QString& ruta, const std::string& motivo, const char* remedio = COMPRUEBE_EL_ARCHIVO) {
-    DiFallo(motivo, "No se puede abrir \"" + ruta.toStdString() + "\": ", std::string(".\n\n") + remedio);
+bool NoSeAbre(const QString& ruta, const Impedimento& porQue, const std::string& detalle = {}) {
+    const std::string texto =
+        "No se puede abrir \"" + ruta.toStdString() + "\": " + porQue.motivo + ".\n\n" + porQue.remedio;
+    if (detalle.empty())
+        dialogos().MsgBox(texto);
+    else
+        dialogos().AvisoConDetalle(texto, detalle);
     return false;
+}
+
+// As much of it as a box can hold.
+std::string PrimerasLineas(const std::string& texto) {
+    constexpr int MAXIMO = 200;
+    std::string primeras;
+    int lineas = 0;
+    PorLineas(texto, [&](std::string_view linea) {
+        if (!linea.empty() && ++lineas <= MAXIMO) primeras.append(linea) += '\n';
+    });
+    if (lineas > MAXIMO) primeras += "... y " + std::to_string(lineas - MAXIMO) + " líneas más";
+    return primeras;
 }
 
 }  // namespace
@@ -85,7 +103,7 @@ bool Documentos::Abre(const QString& ruta) {
     lectorArchivo lector;
     lector.NombreArchivo(RutaDe(ruta));
     const std::string motivo = lector.MotivoParaNoAbrir();
-    if (!motivo.empty()) return NoSeAbre(ruta, motivo);
+    if (!motivo.empty()) return NoSeAbre(ruta, PorQueNoSeAbre(motivo));
     if (!PuedePerderse() || !Carga(ruta)) return false;
     const QString entera = QFileInfo(ruta).absoluteFilePath();
     adjuntos_.Recuerda(entera);
@@ -108,24 +126,16 @@ bool Documentos::Carga(const QString& ruta) {
     }
     cargando_ = false;
     emit CargaCambiada(false);
-    const bool datosMalos = fallo && !esquema_.MotivoSinLeer().isEmpty();
-    if (!fallo || datosMalos) fallo = Motivo();
-    if (!fallo) return true;
+    const std::string sinLeer = esquema_.MotivoSinLeer().toStdString();
+    if (!fallo && sinLeer.empty()) return true;
     // The file that was open has nothing to do with what is shown after all.
     if (esquema_.GetElementos() != anterior) {
         adjuntos_.Recuerda({});
         PonRuta({});
     }
-    NoSeAbre(ruta, *fallo, datosMalos ? CORRIJA_LOS_CODIGOS : COMPRUEBE_EL_ARCHIVO);
+    NoSeAbre(ruta, PorQueNoSeAbre(sinLeer, fallo), fallo.value_or(""));
     esquema_.Refresh();
     return false;
-}
-
-// Why the file that was just opened could not be read; nothing when it was.
-std::optional<std::string> Documentos::Motivo() const {
-    const QString motivo = esquema_.MotivoSinLeer();
-    if (motivo.isEmpty()) return std::nullopt;
-    return motivo.toStdString();
 }
 
 void Documentos::DiProblemas() const {
@@ -134,9 +144,14 @@ void Documentos::DiProblemas() const {
                           ".\n\nEl esquema se ha abierto sin ella. Lo que el archivo dice de la imagen " +
                           "se conserva al guardar, salvo que escoja otra.");
     }
-    if (esquema_.ProblemasDeCarga().isEmpty()) return;
-    dialogos().MsgBox("El esquema se ha abierto, pero faltaban datos o se repetían. Consulte el archivo " +
-                      QDir::current().filePath(QStringLiteral("ErroresCarga.log")).toStdString() + ".");
+    const std::string problemas = esquema_.ProblemasDeCarga().toStdString();
+    if (problemas.empty()) return;
+    std::string texto = "El esquema se ha abierto, pero faltaban datos o se repetían.";
+    if (!problemas.starts_with(SIN_REGISTRO)) {
+        texto += " Consulte el archivo " +
+                 QDir::current().filePath(QStringLiteral("ErroresCarga.log")).toStdString() + ".";
+    }
+    dialogos().AvisoConDetalle(texto, PrimerasLineas(problemas));
 }
 
 bool Documentos::Guarda() {

@@ -3,8 +3,6 @@
 #include <QDateTime>
 #include <QObject>
 #include <QString>
-#include <optional>
-#include <string>
 
 #include "Adjuntos.h"
 
@@ -44,7 +42,6 @@ class Documentos : public QObject {
 
   private:
     bool Carga(const QString& ruta);
-    std::optional<std::string> Motivo() const;
     bool GuardaEn(const QString& ruta);
     void PonRuta(const QString& ruta);
     void DiProblemas() const;

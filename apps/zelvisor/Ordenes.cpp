@@ -29,8 +29,9 @@ constexpr int ILEGIBLE = 2;
 EsquemaLeido LeeODilo(const QString& entrada, CodigosRepetidos repetidos = CodigosRepetidos::SeRechazan) {
     EsquemaLeido leido = LeeEsquema(RutaDe(entrada), repetidos);
     if (!leido.elementos) {
-        std::cerr << "zelvisor: no se puede leer \"" << RutaDe(entrada) << "\": " << leido.motivo << ".\n"
-                  << leido.remedio << '\n';
+        std::cerr << "zelvisor: no se puede leer \"" << RutaDe(entrada) << "\": " << leido.impedimento.motivo
+                  << ".\n"
+                  << leido.impedimento.remedio << '\n';
     }
     return leido;
 }

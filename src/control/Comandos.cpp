@@ -120,10 +120,12 @@ void Comandos::Carga(const std::string& archNombre, const std::shared_ptr<Elemen
         lector->Carga();
     } catch (...) {
         if (vida->viva) motivo_ = lector->MotivoSinCargar();
-        throw;
+        // A schematic is worth more than the log of its load.
+        if (lector->FalloDelRegistro().empty()) throw;
+        problemas_ = SIN_REGISTRO + (": " + lector->FalloDelRegistro()) + "\r\n";
     }
     motivo_ = lector->MotivoSinLeer();
-    problemas_ = lector->Registro();
+    problemas_ += lector->Registro();
     sinLeer_ = motivo_.empty() ? std::string() : RutaEntera(archNombre);
     // The picture is looked for beside the file, wherever the process goes meanwhile.
     lector->NombreArchivo(RutaEntera(archNombre));

@@ -129,11 +129,26 @@ TEST_F(Ventana, AFileThatCannotBeOpenedLeavesTheOneThatWas) {
     EXPECT_FALSE(ventana->Abre(u"nada.xml"_s));
     dialogos.Espera("no es un esquema");
     EXPECT_FALSE(ventana->Abre(QString::fromStdString(carpeta.Escribe("otro.xml", "<Otro/>"))));
-    EXPECT_EQ(esquema->GetElementos(), cuenca);
     esquema->bHabidoCambios(false);
+    const std::string bandera = "<Esquema><Elemento><VerNombre>2</VerNombre></Elemento></Esquema>";
+    dialogos.Espera(
+        "contiene datos que no se pueden cargar: Error en funcion I2B (lectorArchivo), argumento "
+        "recibido: 2.\n\nCompruebe los datos");
+    EXPECT_FALSE(ventana->Abre(QString::fromStdString(carpeta.Escribe("bandera.xml", bandera))));
+    EXPECT_EQ(esquema->GetElementos(), cuenca);
     dialogos.Espera("ErroresCarga.log");
     EXPECT_TRUE(ventana->Abre(QString::fromStdString(carpeta.Escribe("incompleto.xml", UN_NUDO))));
     EXPECT_EQ(esquema->GetElementos()->Count(), 1);
+    // Where the log cannot be written, it opens all the same.
+    std::filesystem::remove("ErroresCarga.log");
+    std::filesystem::create_directory("ErroresCarga.log");
+    ventana->Abre(ruta);
+    dialogos.Espera("El esquema se ha abierto");
+    EXPECT_TRUE(ventana->Abre(QString::fromStdString((carpeta / "incompleto.xml").string())));
+    EXPECT_EQ(esquema->GetElementos()->Count(), 1);
+    EXPECT_EQ(dialogos.Ultimo().find("ErroresCarga.log"), std::string::npos) << dialogos.Ultimo();
+    EXPECT_TRUE(dialogos.Detalle().starts_with("No se ha podido escribir ErroresCarga.log: "));
+    EXPECT_NE(dialogos.Detalle().find("no almacenó la propiedad Nombre"), std::string::npos);
 }
 
 TEST_F(Ventana, ClosingWithChangesAsksWhatIsToBecomeOfThem) {
