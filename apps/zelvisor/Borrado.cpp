@@ -93,10 +93,16 @@ void PreguntaYBorra(Esquema& esquema, QWidget* ventana, std::int32_t codigo) {
     if (!Confirma(ventana, QStringLiteral("¿Borrar %1?").arg(Describe(*e)),
                   Detalle(dependientes, conSecundarias), QStringLiteral("&Borrar")))
         return;
-    if (esquema.GetElementos() != elementos || esquema.Seleccionar(codigo) != codigo) return;
+    if (esquema.GetElementos() == elementos) BorraConDependientes(esquema, codigo);
+}
+
+void BorraConDependientes(Esquema& esquema, std::int32_t codigo) {
+    const auto elementos = esquema.GetElementos();
+    if (esquema.Seleccionar(codigo) != codigo) return;
+    const auto dependientes = Dependientes(*elementos, codigo);
     for (const auto& dependiente : dependientes)
         elementos->RemoveCodSIG(dependiente->gfCodSIG());
-    QuitaSecundarias(*elementos, borrados);
+    QuitaSecundarias(*elementos, CodigosDe(dependientes, codigo));
     esquema.bHabidoCambios(true);
     esquema.BorrarElemento();
 }

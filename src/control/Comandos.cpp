@@ -150,8 +150,22 @@ void Comandos::AceptaColeccion(std::shared_ptr<Elementos> nueva) {
     if (e && !documento_.colElementos->Contiene(e.get())) trabajo_.elemSeleccionado.reset();
     estados_.BorrarVariablesEstado(false);
     trabajo_.trazadoTemporal.reset();
+    trabajo_.interrumpido.reset();
     desplazamiento_.NuevoDocumento();
     imagen_.CierraFrame();
+    // What these stand on was the earlier one's.
+    switch (trabajo_.iEstado) {
+        case E_ZOOM:
+        case E_DIBUJANDO:
+        case E_PREPARADO:
+        case E_ESPERAR_SUBSISTEMA:
+        case E_RECUADRO_ZOOM:
+        case E_MANO:
+        case E_PROCESANDO:
+            return;
+        default:
+            estados_.Estado(E_PREPARADO, 0);
+    }
 }
 
 void Comandos::ArchivoNuevo() {

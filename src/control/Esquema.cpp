@@ -87,7 +87,7 @@ qint32 Esquema::SeleccionaElemento(qint32 codigo, bool centrar, const char* sufi
             p.trabajo.elemSeleccionado = e;
             p.estados.RevisaPrompt();
             if (centrar) {
-                p.alMostrar = Partes::AlMostrar::Nada;
+                p.TambienAlMostrar([&p, x = e->XPos(), y = e->YPos()] { p.vista.MueveScroll(x, y, 2); });
                 p.vista.MueveScroll(e->XPos(), e->YPos(), 2);
             }
         }
@@ -235,7 +235,7 @@ void Esquema::SetElementos(std::shared_ptr<Elementos> elementos) {
 void Esquema::ArchivoAbrir(const QString& archNombre) {
     const std::shared_ptr<Partes> vivas = partes_;
     vivas->ExigeDisposicion();
-    if (!vivas->seHaMostrado) vivas->alMostrar = Partes::AlMostrar::Ajusta;
+    vivas->DisponeAlMostrar(Partes::AlMostrar::Ajusta);
     const struct Refresca {
         Partes& p;
         ~Refresca() { p.RefrescaCuandoHayaCalma(); }
@@ -250,7 +250,7 @@ void Esquema::ArchivoNuevo() {
         p.refresco.AnularRefresco();
         p.comandos.ArchivoNuevo();
         p.vista.DisponeDeNuevo(p.panel->AnchoMm(), p.panel->AltoMm());
-        if (!p.seHaMostrado) p.alMostrar = Partes::AlMostrar::Dispone;
+        p.DisponeAlMostrar(Partes::AlMostrar::Dispone);
         p.refresco.PedirRefresco();
         p.refresco.RefrescarSiPendiente();
     });
@@ -316,7 +316,7 @@ void Esquema::ResizeGrafo() {
     const std::shared_ptr<Partes> vivas = partes_;
     Partes& p = *vivas;
     p.ExigeDisposicion();
-    if (!p.seHaMostrado) p.alMostrar = Partes::AlMostrar::Ajusta;
+    p.DisponeAlMostrar(Partes::AlMostrar::Ajusta);
     p.vista.AjustarImagen(p.panel->lienzo(), 1);
 }
 
@@ -356,9 +356,16 @@ bool Esquema::CambiaZoom(double factor) {
     const std::shared_ptr<Partes> vivas = partes_;
     Partes& p = *vivas;
     p.ExigeDisposicion();
-    p.alMostrar = Partes::AlMostrar::Nada;
-    return p.vista.AjustarZoomUsuario(p.panel->lienzo(), static_cast<float>(p.vista.Zoom() * factor), true,
-                                      true, 1);
+    const bool hecho = p.vista.AjustarZoomUsuario(p.panel->lienzo(),
+                                                  static_cast<float>(p.vista.Zoom() * factor), true, true, 1);
+    // The zoom is of areas. What has been told once already is not told again by a box.
+    if (hecho) {
+        p.TambienAlMostrar([&p, factor] {
+            const Superficie::Escala e = p.panel->lienzo().escala();
+            p.vista.AmpliaEn(1 / std::sqrt(factor), {e.Left + e.Width / 2, e.Top + e.Height / 2});
+        });
+    }
+    return hecho;
 }
 
 void Esquema::textoStatBar(const QString& texto) {

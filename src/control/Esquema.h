@@ -123,9 +123,9 @@ class Esquema : public QFrame {
     // current directory.
     QString MotivoSinLeer() const;
     QString ProblemasDeCarga() const;
-    // Of the last ArchivoAbrir or ArchivoGuardar: why the background picture is not shown, or could not be
-    // copied; empty when there is nothing to tell. What the file says of a picture that is not shown is kept
-    // when it is saved.
+    // Of the last ArchivoAbrir, why the background picture is not shown; of the last ArchivoGuardar, why it
+    // could not be copied. Empty when there is nothing to tell. What the file says of a picture that is not
+    // shown is kept when it is saved.
     QString AvisoDeImagen() const;
 
     // Stores a copy of an element of the host, under its code, and counts it as the newest. With the

@@ -34,6 +34,13 @@ float Posicion(float valor) {
     return valor;
 }
 
+// But for the rounding that growing with the panel leaves.
+bool EsLaMisma(const Superficie::Escala& a, const Superficie::Escala& b) {
+    const float margen = std::abs(b.Width) / 100'000;
+    return std::abs(a.Left - b.Left) < margen && std::abs(a.Top - b.Top) < margen &&
+           std::abs(a.Width - b.Width) < margen && std::abs(a.Height - b.Height) < margen;
+}
+
 }  // namespace
 
 // Pixels per inch in each direction.
@@ -138,8 +145,8 @@ qint16 Esquema::ScaleMode() const {
     return Llamada(". ScaleMode (Esquema)", [&]() -> qint16 {
         const Superficie::Escala escala = partes_->panel->lienzo().escala();
         const QSize tamanyo = partes_->panel->size();
-        return escala == EscalaDelModo(partes_->modoDeEscala, tamanyo, Resolucion()) ? partes_->modoDeEscala
-                                                                                     : MODO_PROPIO;
+        const Superficie::Escala delModo = EscalaDelModo(partes_->modoDeEscala, tamanyo, Resolucion());
+        return EsLaMisma(escala, delModo) ? partes_->modoDeEscala : MODO_PROPIO;
     });
 }
 

@@ -35,6 +35,14 @@ std::optional<double> NumeroDe(std::string texto) try {
     return std::nullopt;
 }
 
+// What the boxes say before anybody writes in them.
+struct Rotulo {
+    const char* texto;
+    const char* inicial;
+};
+constexpr Rotulo ROTULOS[] = {
+    {"Posición X", "0"}, {"Posición Y", "0"}, {"Logitud  X", "300"}, {"Prop. Y/X", "1"}};
+
 }  // namespace
 
 ImagenFondo::ImagenFondo(QWidget* visor, Documento& documento, const Trabajo& trabajo, Refresco& refresco,
@@ -51,12 +59,6 @@ ImagenFondo::ImagenFondo(QWidget* visor, Documento& documento, const Trabajo& tr
 }
 
 void ImagenFondo::ConstruyeFrame(QWidget* visor) {
-    struct Rotulo {
-        const char* texto;
-        const char* inicial;
-    };
-    static constexpr Rotulo ROTULOS[] = {
-        {"Posición X", "0"}, {"Posición Y", "0"}, {"Logitud  X", "300"}, {"Prop. Y/X", "1"}};
     frame_ = new QGroupBox(QStringLiteral("Imagen de fondo"), visor);
     frame_->setObjectName(QStringLiteral("FrameImagenFondo"));
     frame_->setAutoFillBackground(true);
@@ -220,9 +222,18 @@ void ImagenFondo::CierraFrame() {
     if (trabajo_.iEstado == E_IMAGEN_FONDO) estados_.Estado(E_PREPARADO, 1);
 }
 
+void ImagenFondo::Reinicia() {
+    ImagenX0_ = ImagenY0_ = ImagenLX_ = ImagenPropYX_ = ImagenLY_ = 0;
+    for (std::size_t i = 0; i < otbImagenFondo_.size(); ++i)
+        otbImagenFondo_[i]->setText(QString::fromLatin1(ROTULOS[i].inicial));
+    bOcultarImagenFondo_ = false;
+    Check1OcultarImagenFondo_->setChecked(false);
+}
+
 void ImagenFondo::AplicaSeccion(const std::optional<SeccionImagen>& seccion) {
     bHayImagenFondo_ = false;
     OlvidaLaDelArchivo();
+    Reinicia();
     if (!seccion) return;
     if (const auto& imagen = seccion->imagen) {
         sArchivoImagenFondo_ = imagen->Archivo;

@@ -47,6 +47,8 @@ class ImagenFondo {
     Fondo FondoDelPanel() const;
 
     bool bHayImagenFondo() const noexcept { return bHayImagenFondo_; }
+    // The file tells of a picture that cannot be shown, and that is still kept.
+    bool bImagenSinMostrar() const noexcept { return delArchivo_.has_value(); }
     // The frame is the control's child: it goes with it.
     void SueltaFrame() noexcept { frame_ = nullptr; }
     QWidget* Frame() const noexcept { return frame_; }
@@ -58,6 +60,8 @@ class ImagenFondo {
     std::string Carga(const std::string& ruta);
     void Pintar_LinkError() noexcept;
     void OlvidaLaDelArchivo() noexcept;
+    // The frame as it is before any picture has been placed.
+    void Reinicia();
     void PonTamanyoInicial();
     bool CajasValidas();
     void EscribeCajas();

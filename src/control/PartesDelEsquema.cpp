@@ -330,6 +330,16 @@ void Esquema::Partes::ExigeDisposicion() {
     if (vista.RelacionAspecto() == 0) UserControl_Resize();
 }
 
+void Esquema::Partes::DisponeAlMostrar(AlMostrar que) {
+    if (seHaMostrado) return;
+    alMostrar = que;
+    trasDisponer.clear();
+}
+
+void Esquema::Partes::TambienAlMostrar(std::function<void()> accion) {
+    if (!seHaMostrado) trasDisponer.push_back(std::move(accion));
+}
+
 void Esquema::Partes::AjustaAlMostrarSiHaceFalta() {
     seHaMostrado = true;
     // Keys are for the panel unless the user, or the host, has chosen another place for them.
@@ -340,6 +350,8 @@ void Esquema::Partes::AjustaAlMostrarSiHaceFalta() {
         UserControl_Resize();
         vista.DisponeDeNuevo(panel->AnchoMm(), panel->AltoMm());
         if (que == AlMostrar::Ajusta) vista.AjustarImagen(panel->lienzo(), 2);
+        for (const auto& haz : std::exchange(trasDisponer, {}))
+            haz();
         refresco.RefrescarSiPendiente();
     });
 }

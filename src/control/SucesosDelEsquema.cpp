@@ -93,6 +93,7 @@ AspectoDelMenu Esquema::Partes::AspectoDelMenuAhora() const {
     if (e && documento.colElementos->Contiene(e.get())) situacion.elemSeleccionado = e.get();
     situacion.bSubsistema = trabajo.iEstado == E_SUBSISTEMA;
     situacion.bHayImagenFondo = imagen.bHayImagenFondo();
+    situacion.bImagenSinMostrar = imagen.bImagenSinMostrar();
     situacion.bMostrarEtiquetas = documento.bMostrarEtiquetas;
     situacion.bMostrarLineasOcultas = documento.bMostrarLineasOcultas;
     return AspectoDelMenuEn(situacion);

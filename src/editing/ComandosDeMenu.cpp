@@ -95,17 +95,18 @@ void ComandosDeMenu::menuContextualSeleccionExportar_Click() {
 }
 
 // A name without an ending gets that of a schematic; where that is a file's already, the dialog asks about
-// it.
+// it, until it has been asked about the name that counts.
 std::string ComandosDeMenu::ArchivoElegido() {
-    std::string ruta = dialogo_.ShowSave();
-    trabajo_.ExigeVisor();
-    if (ruta.empty() || std::filesystem::path(ruta).has_extension()) return ruta;
-    ruta += ".xml";
-    std::error_code error;
-    if (!std::filesystem::exists(ruta, error)) return ruta;
-    ruta = dialogo_.ShowSave(ruta);
-    trabajo_.ExigeVisor();
-    return ruta;
+    std::string propuesta;
+    while (true) {
+        std::string ruta = dialogo_.ShowSave(propuesta);
+        trabajo_.ExigeVisor();
+        if (ruta.empty() || std::filesystem::path(ruta).has_extension()) return ruta;
+        ruta += ".xml";
+        std::error_code error;
+        if (!std::filesystem::exists(ruta, error)) return ruta;
+        propuesta = ruta;
+    }
 }
 
 void ComandosDeMenu::menuVisorNoEtiquetas_Click() {

@@ -151,11 +151,14 @@ void EntradaPanel::Mueve(std::int16_t Button, float X, float Y) {
         if (arrastra && trabajo_.iEstado == E_PREPARADO) return gestos_.vista.Lleva(raton_);
         gestos_.vista.SueltaVista();
     }
-    if (trabajo_.iEstado == E_DIBUJANDO_CONDUCCION) return gestos_.creacion.Mueve(X, Y);
     if (Button == 0) {
-        if (trabajo_.iEstado == E_PREPARADO) gestos_.seleccion.Sobrevuela(X, Y);
+        if (trabajo_.iEstado == E_PREPARADO)
+            gestos_.seleccion.Sobrevuela(X, Y);
+        else
+            gestos_.seleccion.DejaDeSobrevolar();
         if (trabajo_.iEstado == E_ESCOGER_PUNTO) gestos_.puntos.Sobrevuela(X, Y);
     }
+    if (trabajo_.iEstado == E_DIBUJANDO_CONDUCCION) return gestos_.creacion.Mueve(X, Y);
     if (!arrastra) return;
     switch (trabajo_.iEstado) {
         case E_PREPARADO:

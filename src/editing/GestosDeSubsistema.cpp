@@ -20,6 +20,7 @@ void GestosDeSubsistema::SigueLazo(float X, float Y) {
         return;
     }
     const auto anterior = curva->Item(curva->Count());
+    if (anterior->XPos() == X && anterior->YPos() == Y) return;
     curva->Add(X, Y);
     PreparaColor(panel_, COLOR_AZUL);
     panel_.Line({anterior->XPos(), anterior->YPos()}, {X, Y});

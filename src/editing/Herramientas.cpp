@@ -40,7 +40,9 @@ void Herramientas::Toolbar1_ButtonClick(std::string_view clave) try {
     } else if (nueva != anterior && !(EsDeConduccion(nueva) && EsDeConduccion(anterior))) {
         estados_.Estado(E_DIBUJANDO, 1);
     } else {
+        // The trace in hand goes on, in the colour of its new kind.
         estados_.RevisaBarraToolbar1();
+        if (nueva != anterior) refresco_.PedirRefresco();
     }
     refresco_.RefrescarSiPendiente();
 } catch (...) {

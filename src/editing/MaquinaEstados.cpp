@@ -10,6 +10,7 @@
 #include "editing/Subsistema.h"
 #include "model/Mensajes.h"
 #include "model/modErrorHandling.h"
+#include "platform/Guardia.h"
 #include "platform/Numeros.h"
 #include "session/Ajustes.h"
 
@@ -113,12 +114,12 @@ void MaquinaEstados::Interrumpe(std::int32_t viejo) {
 }
 
 void MaquinaEstados::Vuelve() {
-    reanuda_ = std::exchange(trabajo_.interrumpido, std::nullopt);
+    const Guardia reanuda(reanuda_, std::exchange(trabajo_.interrumpido, std::nullopt), std::nullopt);
     std::int32_t destino = reanuda_ ? reanuda_->iEstado : E_PREPARADO;
     const bool deUnElemento = EsUnoDe(destino, E_MOVER_ELEMENTO, E_MOVER_ETIQUETA, E_ESCOGER_PUNTO);
     if (deUnElemento && !trabajo_.elemSeleccionado) destino = E_PREPARADO;
     Estado(destino, 1);
-    reanuda_.reset();
+    Pide(1);  // the band of what came between goes, also where the state is entered without a repaint
 }
 
 void MaquinaEstados::EntraZoom(Fila fila, std::int32_t viejo, std::int32_t bRefrescar) {
@@ -295,8 +296,11 @@ void MaquinaEstados::EntraBanda(Fila fila, std::int32_t viejo, std::int32_t bRef
     if (!EsUnoDe(viejo, E_ZOOM, E_DIBUJANDO, E_PREPARADO)) Pide(bRefrescar);
 }
 
-void MaquinaEstados::EntraImagenFondo(Fila fila, std::int32_t, std::int32_t) {
-    if (fila.numero == E_IMAGEN_FONDO) anfitrion_.BarraElementosActiva(false);
+void MaquinaEstados::EntraImagenFondo(Fila fila, std::int32_t, std::int32_t bRefrescar) {
+    if (fila.numero == E_IMAGEN_FONDO) {
+        anfitrion_.BarraElementosActiva(false);
+        Pide(bRefrescar);
+    }
     Pon(fila);
 }
 

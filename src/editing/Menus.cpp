@@ -21,7 +21,7 @@ bool SePuedenMoverPuntos(const Elemento& e) noexcept {
 void PonVisor(AspectoDelMenu& menu, const SituacionDelMenu& s) {
     menu[menuVisorMostrarLineasOcultas].marcado = s.bMostrarLineasOcultas;
     menu[menuVisorNoEtiquetas].marcado = !s.bMostrarEtiquetas;
-    menu[menuVisorQuitarImagen].visible = s.bHayImagenFondo;
+    menu[menuVisorQuitarImagen].visible = s.bHayImagenFondo || s.bImagenSinMostrar;
     menu[menuVisorImagen].texto = s.bHayImagenFondo ? "Editar imagen de fondo" : "Agregar imagen de fondo";
 }
 

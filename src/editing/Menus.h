@@ -64,6 +64,7 @@ struct SituacionDelMenu {
     const Elemento* elemSeleccionado = nullptr;
     bool bSubsistema = false;  // one is selected
     bool bHayImagenFondo = false;
+    bool bImagenSinMostrar = false;  // the file tells of one that cannot be shown
     bool bMostrarEtiquetas = true;
     bool bMostrarLineasOcultas = true;
 };

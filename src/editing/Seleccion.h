@@ -21,6 +21,8 @@ class Seleccion {
     void EmpiezaArrastre(float X, float Y);
     // Without a button: shows whether there is something to drag.
     void Sobrevuela(float X, float Y);
+    // What a press has underlined goes when the mouse does, in the states that do not look under it.
+    void DejaDeSobrevolar() { localizador_.DejaDeSubrayar(); }
     void Suelta() noexcept;
 
     // Makes it the selected element and moves the highlight to it; the host is not told.

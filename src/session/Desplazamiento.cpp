@@ -146,18 +146,18 @@ void Desplazamiento::Change(Eje& eje) {
         anfitrion_.TextoEstado(1, std::string(TextoMensajeODesconocido(FIN_DE_LA_BARRA)));
     }
     eje.bEnBordeScroll = enBorde;
+    trabajo_.trazadoTemporal.reset();
     refresco_.PedirRefresco();
     if (!bActualizandoScroll_) refresco_.RefrescarSiPendiente();
-    trabajo_.trazadoTemporal.reset();
 }
 
 void Desplazamiento::Scroll(Eje& eje) {
     if (bActualizandoScroll_) refresco_.AnularRefresco();
     vista_.bVistaActualizada(false);
     Mueve(eje);
+    trabajo_.trazadoTemporal.reset();
     refresco_.PedirRefresco();
     if (!bActualizandoScroll_) refresco_.RefrescarSiPendiente();
-    trabajo_.trazadoTemporal.reset();
 }
 
 bool Desplazamiento::MedioPaso(const Eje& eje, bool haciaMax) {

@@ -38,6 +38,11 @@ class Localizador {
     // symbol of an element.
     bool HayElementoBajoEtiqueta(const Punto& origen, const Punto& tamanyo);
 
+    // Until the next search.
+    void DejaDeSubrayar() {
+        if (subrayaElem_) subrayaElem_(0);
+    }
+
   private:
     std::shared_ptr<Elemento> TrazadoNuevoComoElemento() const;
 

@@ -75,7 +75,7 @@ class ConRaton : public EnVentana {
     // What the panel shows, and what a fresh paint would.
     QImage Imagen() const { return Dibujo().Imagen().copy(); }
     QImage RecienPintada() {
-        esquema.Refresh();
+        esquema.BackColor(esquema.BackColor());  // leaves the state alone
         return Imagen();
     }
 

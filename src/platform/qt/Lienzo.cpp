@@ -389,7 +389,7 @@ void Lienzo::PaintPicture(const zel::Imagen& imagen, PuntoXY esquina, float anch
     const QRectF origen((visible.left() - destino.left()) * columnas, (visible.top() - destino.top()) * filas,
                         visible.width() * columnas, visible.height() * filas);
     pintor_.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    pintor_.setRenderHint(QPainter::SmoothPixmapTransform);
+    pintor_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     pintor_.drawImage(visible, colocada.imagen, origen);
 }
 
@@ -413,6 +413,7 @@ void Lienzo::Print(std::string_view texto) {
     if (Reduccion() < 1 || !EsPunto(esquina))
         return;  // less than a pixel high, or nowhere: nothing to be seen
     pintor_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    pintor_.setRenderHint(QPainter::Antialiasing);
     hayPlumaPuesta_ = false;
     if (!FontTransparent()) {
         const QRectF visible = CajaDeTexto(texto) & QRectF(imagen_.rect());
