@@ -211,6 +211,34 @@ TEST_F(AlDia, TheFrameOfAPictureThatIsReplacedLeavesNothingBehind) {
     Pon(DosNudos(40));
     Clic({40, 40});
     EXPECT_EQ(Prompt(), "Sur");
+    // A zoom that comes between does not bring it back, nor a trace of the earlier schematic.
+    for (const bool conTraza : {false, true}) {
+        conTraza ? Boton("conduccion1") : Orden("menuVisorImagen");
+        if (conTraza) Clic({0, 0});
+        Boton("zoommas");
+        esquema.SetElementos(DosNudos(40));
+        QTest::keyClick(Panel(), Qt::Key_Escape);
+        EXPECT_EQ(Prompt(), "Preparado");
+        EXPECT_TRUE(Parte("ToolBar1")->isEnabled());
+    }
+    Pon(DosNudos(40));
+    Orden("menuVisorSubSistema");
+    Arrastra({{0, 10}, {80, 10}, {80, 60}, {0, 60}});
+    ASSERT_TRUE(Prompt().starts_with("SUBSISTEMA")) << Prompt();
+    esquema.SetElementos(DosNudos(40));
+    EXPECT_EQ(Prompt(), "Preparado");
+}
+
+TEST_F(AlDia, AMoveOfTheBarsInAHandsDragLeavesNoBand) {
+    Panel()->setFocus();
+    for (const Qt::Key tecla : {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down}) {
+        Boton("mano");
+        Pulsa({60, 30});
+        Mueve({80, 50});
+        QTest::keyClick(Panel(), tecla);
+        Suelta({80, 50});
+        EXPECT_TRUE(EstaAlDia()) << tecla;
+    }
 }
 
 TEST(AlDiaAlPrincipio, ANewControlShowsAHundredPercentAndWhatWasChosenBefore) {
@@ -236,13 +264,27 @@ TEST(AlDiaAlPrincipio, ANewControlShowsAHundredPercentAndWhatWasChosenBefore) {
         EXPECT_TRUE(esquema.bMostrarLineasOcultas());
         EXPECT_FALSE(esquema.bHabidoCambios());
     }
-    Esquema otro;
-    otro.ScaleMode(7);
-    otro.resize(1000, 700);
-    otro.show();
-    QApplication::processEvents();
-    EXPECT_EQ(otro.ScaleMode(), 7);
-    EXPECT_LT(otro.ScaleWidth(), 40) << "in centimetres";
+    // What was chosen before the first show holds, on the view of the size that it has then.
+    for (qint16 modo = 1; modo <= 7; ++modo) {
+        Esquema otro;
+        otro.ScaleMode(modo);
+        otro.resize(900 + modo, 700);
+        otro.show();
+        QApplication::processEvents();
+        EXPECT_EQ(otro.ScaleMode(), modo);
+    }
+    for (const double factor : {1.0, 0.5}) {
+        Esquema otro;
+        otro.resize(1000, 700);
+        otro.SetElementos(DosNudos(500));
+        otro.SeleccionarCentrarElemento(2);
+        if (factor != 1) otro.CambiaZoom(factor);
+        otro.show();
+        QApplication::processEvents();
+        EXPECT_EQ(region(otro), "Región mostrada: " + Cifra(100 * factor) + " %");
+        EXPECT_NEAR(otro.ScaleLeft() + otro.ScaleWidth() / 2, 500, 1);
+        EXPECT_NEAR(otro.ScaleTop() + otro.ScaleHeight() / 2, 500, 1);
+    }
 }
 
 }  // namespace

@@ -148,6 +148,17 @@ TEST_F(ImagenFondo, ItGoesWithTheFileHiddenOrRemoved) {
     abre("con.xml", false, true);
     esquema.ArchivoAbrir(u"con.xml"_s);
     EXPECT_TRUE(esquema.AvisoDeImagen().contains(u"plano.bmp"_s)) << esquema.AvisoDeImagen().toStdString();
+    // One that is not shown can be taken away.
+    esquema.PonAlDiaMenu();
+    ASSERT_TRUE(Parte<QAction>("menuVisorQuitarImagen")->isVisible());
+    Parte<QAction>("menuVisorQuitarImagen")->trigger();
+    esquema.ArchivoGuardar(u"otra.xml"_s);
+    EXPECT_EQ(LeeArchivo("otra.xml"), LeeArchivo("sin.xml"));
+    // A new schematic knows nothing of the one before.
+    esquema.ArchivoAbrir(u"oculta.xml"_s);
+    esquema.ArchivoNuevo();
+    EXPECT_EQ(Cajas(), "0 0 300 1 ");
+    EXPECT_FALSE(Parte<QCheckBox>("Check1OcultarImagenFondo")->isChecked());
 }
 
 TEST_F(ImagenFondo, TheCopyOfTheLastSaveStandsInForAPictureThatIsGone) {

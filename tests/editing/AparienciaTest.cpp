@@ -3,6 +3,7 @@
 #include "drawing/Colores.h"
 #include "editing/ComandosDeMenu.h"
 #include "model/TamanyoUnidad.h"
+#include "support/CarpetaTemporal.h"
 #include "support/MesaDeEdicion.h"
 
 namespace zel::pruebas {
@@ -197,6 +198,14 @@ TEST_F(Aspecto, OnlyASelectedSubsystemIsExportedAndItStaysSelected) {
         comandos.menuContextualSeleccionExportar_Click();
         EXPECT_EQ(trabajo.iEstado, 12);
     }
+    // Without an ending the dialog asks about the name that counts, as often as it is taken.
+    const CarpetaTemporal carpeta;
+    carpeta.Escribe("una.xml", "");
+    carpeta.Escribe("otra.xml", "");
+    for (const char* nombre : {"una", "otra", "libre"})
+        guion.ResponderArchivo((carpeta / nombre).string());
+    comandos.menuContextualSeleccionExportar_Click();
+    EXPECT_EQ(std::exchange(exportado, "parte.xml 1"), (carpeta / "libre.xml").string() + " 1");
     guion.MientrasAvisa([this] { estados.Estado(5, 1); });
     guion.ResponderArchivo("tarde.xml");
     comandos.menuContextualSeleccionExportar_Click();
