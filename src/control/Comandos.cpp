@@ -151,6 +151,7 @@ void Comandos::AceptaColeccion(std::shared_ptr<Elementos> nueva) {
     estados_.BorrarVariablesEstado(false);
     trabajo_.trazadoTemporal.reset();
     trabajo_.interrumpido.reset();
+    trabajo_.iEstadoAnterior = E_PREPARADO;
     desplazamiento_.NuevoDocumento();
     imagen_.CierraFrame();
     // What these stand on was the earlier one's.

@@ -359,12 +359,7 @@ bool Esquema::CambiaZoom(double factor) {
     const bool hecho = p.vista.AjustarZoomUsuario(p.panel->lienzo(),
                                                   static_cast<float>(p.vista.Zoom() * factor), true, true, 1);
     // The zoom is of areas. What has been told once already is not told again by a box.
-    if (hecho) {
-        p.TambienAlMostrar([&p, factor] {
-            const Superficie::Escala e = p.panel->lienzo().escala();
-            p.vista.AmpliaEn(1 / std::sqrt(factor), {e.Left + e.Width / 2, e.Top + e.Height / 2});
-        });
-    }
+    if (hecho) p.TambienAlMostrar([&p, factor] { p.vista.AmpliaEn(1 / std::sqrt(factor), {0.5F, 0.5F}); });
     return hecho;
 }
 

@@ -120,7 +120,7 @@ class Esquema : public QFrame {
     Q_INVOKABLE void ArchivoNuevo();
     // Of the last ArchivoAbrir: why its file could not be read, or which code two of its elements have, empty
     // when it could; and what was missing or repeated in it, also written to "ErroresCarga.log" in the
-    // current directory.
+    // current directory (where that cannot be written, the text begins by saying so).
     QString MotivoSinLeer() const;
     QString ProblemasDeCarga() const;
     // Of the last ArchivoAbrir, why the background picture is not shown; of the last ArchivoGuardar, why it
