@@ -162,6 +162,7 @@ void ImagenFondo::Edita() {
     frame_->setEnabled(true);
     frame_->raise();
     estados_.Estado(E_IMAGEN_FONDO, 1);
+    refresco_.PedirRefresco();  // a subsystem that was shown is not any more
     cmdImagenFondoVer_Click();
     refresco_.RefrescarSiPendiente();
 }

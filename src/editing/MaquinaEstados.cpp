@@ -296,11 +296,8 @@ void MaquinaEstados::EntraBanda(Fila fila, std::int32_t viejo, std::int32_t bRef
     if (!EsUnoDe(viejo, E_ZOOM, E_DIBUJANDO, E_PREPARADO)) Pide(bRefrescar);
 }
 
-void MaquinaEstados::EntraImagenFondo(Fila fila, std::int32_t, std::int32_t bRefrescar) {
-    if (fila.numero == E_IMAGEN_FONDO) {
-        anfitrion_.BarraElementosActiva(false);
-        Pide(bRefrescar);
-    }
+void MaquinaEstados::EntraImagenFondo(Fila fila, std::int32_t, std::int32_t) {
+    if (fila.numero == E_IMAGEN_FONDO) anfitrion_.BarraElementosActiva(false);
     Pon(fila);
 }
 

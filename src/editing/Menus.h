@@ -64,9 +64,9 @@ struct SituacionDelMenu {
     const Elemento* elemSeleccionado = nullptr;
     bool bSubsistema = false;  // one is selected
     bool bHayImagenFondo = false;
-    bool bImagenSinMostrar = false;  // the file tells of one that cannot be shown
     bool bMostrarEtiquetas = true;
     bool bMostrarLineasOcultas = true;
+    bool bImagenSinMostrar = false;  // the file tells of one that cannot be shown
 };
 
 // How an item looks. An item of a submenu that is not shown is not shown either, whatever it says.

@@ -394,6 +394,7 @@ void Mesa::LlamaElAnfitrion(const Gesto& g) {
                                                              {u"Río"_s + QString::number(g.n[2]), {}}));
             case 6:
                 // Takes effect with the next repaint.
+                esquema_->bHabidoCambios(true);
                 esquema_->bMostrarLineasOcultas(g.n[2] % 2);
                 return esquema_->Refresh();
             case 7:

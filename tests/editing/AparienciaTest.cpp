@@ -202,6 +202,7 @@ TEST_F(Aspecto, OnlyASelectedSubsystemIsExportedAndItStaysSelected) {
     const CarpetaTemporal carpeta;
     carpeta.Escribe("una.xml", "");
     carpeta.Escribe("otra.xml", "");
+    ASSERT_EQ(std::exchange(exportado, ""), "parte.xml 1");
     for (const char* nombre : {"una", "otra", "libre"})
         guion.ResponderArchivo((carpeta / nombre).string());
     comandos.menuContextualSeleccionExportar_Click();
