@@ -75,7 +75,10 @@ Comprobaciones::Comprobaciones(Mesa& mesa) : mesa_(mesa) {
 void Comprobaciones::TrasUnGesto(const Gesto& g, bool conPanel) {
     MiraElEsquema();
     if (mesa_.Renovado()) limpios_ = bytes_;
-    if (!mesa_.esquema().bHabidoCambios() && bytes_ != limpios_) {
+    if (mesa_.esquema().bHabidoCambios()) {
+        mesa_.TomaLaMarca();
+        limpios_ = bytes_;
+    } else if (bytes_ != limpios_) {
         mesa_.carpeta.Escribe("antes.xml", limpios_);
         mesa_.Falla("what would be saved has changed, and bHabidoCambios is not set");
     }

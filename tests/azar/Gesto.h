@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "editing/Menus.h"
+
 namespace zel::azar {
 
 // What the user does at one go. Its numbers are turned into an element, a place, a button... by what there is
@@ -94,16 +96,34 @@ class Caprichos {
         for (const Que q : que)
             gestos.push_back(Uno(q));
     }
+    void Arrastra(std::vector<Gesto>& gestos) {
+        using enum Que;
+        constexpr Que ENMEDIO[] = {Que::Tecla, Que::Menu, Que::Barra, Que::Rueda, Que::Anfitrion, Que::Foco};
+        Varios(gestos, {Pulsa, Mueve});
+        for (unsigned i = Hasta(4); i > 0; --i)
+            gestos.push_back(Uno(Mueve));
+        if (Hasta(3) == 0) Varios(gestos, {ENMEDIO[Hasta(std::size(ENMEDIO))], Mueve});
+        gestos.push_back(Uno(Suelta));
+    }
     void Agrega(std::vector<Gesto>& gestos) {
         using enum Que;
         const unsigned suerte = Hasta(100);
-        if (suerte < 18) {
-            // An element is chosen and dragged; sometimes something comes between.
-            Varios(gestos, {Clic, Pulsa, Mueve});
-            for (unsigned i = Hasta(4); i > 0; --i)
-                gestos.push_back(Uno(Mueve));
-            if (Hasta(5) == 0) gestos.push_back(Uno(Hasta(2) ? Tecla : Menu));
-            gestos.push_back(Uno(Suelta));
+        if (suerte < 16) {
+            // An element is chosen and dragged, or the view's tool; sometimes something comes between.
+            if (Hasta(5) == 0)
+                gestos.push_back({Boton, {0, Hasta(1000), 0, 0}});
+            else
+                gestos.push_back(Uno(Clic));
+            Arrastra(gestos);
+        } else if (suerte < 20) {
+            // A point of a trace.
+            gestos.push_back(Uno(Clic));
+            gestos.push_back({Menu, {0, unsigned(ItemDeMenu::menuContextualNodosConduccion), 0, 0}});
+            for (int i = 0; i < 2; ++i) {
+                gestos.push_back({Mueve, {0, 0, 2 + 5 * Hasta(9), 1}});
+                gestos.push_back({Pulsa, {7, 0, 2 + 5 * Hasta(9), 1}});
+                Varios(gestos, {Mueve, Mueve, Suelta});
+            }
         } else if (suerte < 36) {
             // A tool, and clicks until something is created.
             gestos.push_back(Uno(Boton));
@@ -113,6 +133,7 @@ class Caprichos {
             Varios(gestos, {Clic, Menu});
             for (unsigned i = Hasta(4); i > 0; --i)
                 gestos.push_back(Uno(i % 2 ? Clic : Mueve));
+            if (Hasta(3) == 0) Arrastra(gestos);
         } else {
             constexpr Que SUELTOS[] = {Pulsa,       Mueve,       Mueve,          Mueve,          Suelta,
                                        Clic,        Clic,        Clic,           DobleClic,      Rueda,

@@ -10,6 +10,7 @@
 
 #include "Borrado.h"
 #include "azar/Cuenca.h"
+#include "editing/Menus.h"
 #include "file/GuardadoSeguro.h"
 #include "model/modErrorHandling.h"
 
@@ -195,14 +196,16 @@ QPoint Mesa::Sitio(const Gesto& g) const {
                         static_cast<int>(g.n[2]) * panel_->height() / 1000);
     const auto elementos = esquema_->GetElementos();
     if (g.n[3] % 4 == 0 || elementos->Count() == 0) return suelto;
-    const auto e = elementos->Item(1 + static_cast<std::int32_t>(g.n[1]) % elementos->Count());
+    const auto elegido = elementos->ItemCodSIG(esquema_->CodigoElemento());
+    const auto uno = elementos->Item(1 + static_cast<std::int32_t>(g.n[1]) % elementos->Count());
+    const auto e = elegido && g.n[1] % 3 == 0 ? elegido : uno;
     PuntoXY donde{e->XPos(), e->YPos()};
     const auto traza = g.n[2] % 2 && e->Trazado2() ? e->Trazado2() : e->Trazado();
     if (g.n[2] % 5 == 0) {
         donde = {donde.X + e->EtiquetaPosX(), donde.Y + e->EtiquetaPosY()};
-    } else if (g.n[2] % 5 == 1 && traza && traza->Count() >= 2) {
-        const auto a = traza->Item(1 + static_cast<std::int32_t>(g.n[2] / 5) % traza->Count());
-        const auto b = traza->Item(1 + static_cast<std::int32_t>(g.n[2] / 7) % traza->Count());
+    } else if (g.n[2] % 5 < 3 && traza && traza->Count() >= 2) {
+        const std::int32_t cual = 1 + static_cast<std::int32_t>(g.n[2] / 5) % traza->Count();
+        const auto a = traza->Item(cual), b = traza->Item(g.n[2] % 5 == 1 && cual > 1 ? cual - 1 : cual);
         donde = {(a->XPos() + b->XPos()) / 2, (a->YPos() + b->YPos()) / 2};
     }
     const QPointF p = panel_->EnElPanel(donde);
@@ -263,14 +266,15 @@ void Mesa::Menu(const Gesto& g) {
     if (g.n[0] % 2) Raton(QEvent::MouseButtonPress, Qt::RightButton, raton_, 1);
     if (g.n[0] % 2) Raton(QEvent::MouseButtonRelease, Qt::RightButton, raton_, 1);
     Llama([&] { esquema_->PonAlDiaMenu(); });
-    QList<QAction*> posibles;
-    for (QAction* accion : esquema_->findChildren<QAction*>()) {
-        if (accion->objectName().startsWith(u"menu"_s) && accion->isVisible() && !accion->isSeparator() &&
-            !accion->menu())
-            posibles << accion;
+    // The item of that number, or the next one that is offered.
+    const auto& filas = FilasDeMenu();
+    for (std::size_t i = 0; i < filas.size(); ++i) {
+        const std::string_view nombre = filas[(g.n[1] + i) % filas.size()].nombre;
+        auto* accion = esquema_->findChild<QAction*>(QLatin1String(nombre.data(), nombre.size()));
+        if (!accion || !accion->isVisible() || accion->isSeparator()) continue;
+        accion->trigger();
+        break;
     }
-    QAction* const accion = Uno(posibles, g.n[1]);
-    if (accion) accion->trigger();
     if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
     QApplication::processEvents();
 }
@@ -347,7 +351,7 @@ void Mesa::Edita(const Gesto& g) {
 
 // The old mark has to tell whether the file changes by it.
 void Mesa::Guarda() {
-    const bool marca = esquema_->bHabidoCambios();
+    const bool marca = marcado_ || esquema_->bHabidoCambios();
     Llama([&] { esquema_->ArchivoGuardar(QString::fromStdString((carpeta / ESQUEMA).string())); });
     const std::string ahora = pruebas::LeeArchivo(carpeta / ESQUEMA);
     if (!marca && !guardado_.empty() && ahora != guardado_) {
@@ -356,6 +360,7 @@ void Mesa::Guarda() {
     }
     if (esquema_->bHabidoCambios()) Falla("bHabidoCambios is set once saved");
     guardado_ = ahora;
+    marcado_ = false;
     renovado_ = true;
 }
 
@@ -366,6 +371,7 @@ void Mesa::Abre() {
     if (!esquema_->ProblemasDeCarga().isEmpty())
         Falla("read with problems: " + esquema_->ProblemasDeCarga().toStdString());
     guardado_ = pruebas::LeeArchivo(carpeta / ESQUEMA);
+    marcado_ = false;
     renovado_ = true;
 }
 

@@ -63,9 +63,11 @@ class Mesa {
     pruebas::CarpetaTemporal carpeta;
     Esquema& esquema() const { return *esquema_; }
     PanelDibujo& panel() const { return *panel_; }
-    // The file last opened or saved, as it is; empty when there is none, or when its bytes do not say how it
-    // would be saved.
-    const std::string& Guardado() const { return guardado_; }
+    // Takes the mark away: the next change has to set it again.
+    void TomaLaMarca() {
+        marcado_ = true;
+        esquema_->bHabidoCambios(false);
+    }
     // The schematic was replaced, and the mark set back, by what was done last.
     bool Renovado() const { return renovado_; }
 
@@ -97,7 +99,8 @@ class Mesa {
     int pulsaciones_ = 0;
     std::vector<std::pair<int, Qt::KeyboardModifiers>> teclas_;  // held
     std::string fallo_;
-    std::string guardado_;
+    std::string guardado_;  // the file last opened or saved, as it is
+    bool marcado_ = false;  // the mark has been set since
     bool renovado_ = false;
 };
 
