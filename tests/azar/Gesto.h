@@ -43,6 +43,11 @@ constexpr std::array<std::string_view, 20> NOMBRES = {
     "teclaabajo", "teclaarriba", "menu",   "boton", "barra",     "ventana",  "foco",
     "cuadro",     "edita",       "guarda", "abre",  "nuevo",     "anfitrion"};
 
+// Of a place: the selected element; its label, a point of its trace (the first; five more for each next), the
+// middle of its symbol.
+constexpr unsigned ELEGIDO = 3;
+constexpr unsigned ETIQUETA = 0, VERTICE = 2, CENTRO = 3;
+
 struct Gesto {
     Que que = Que::Mueve;
     std::array<unsigned, 4> n{};
@@ -96,10 +101,14 @@ class Caprichos {
         for (const Que q : que)
             gestos.push_back(Uno(q));
     }
+    // The left button, with no key, just there.
+    static Gesto Izquierdo(Que que, unsigned elemento, unsigned lugar) {
+        return {que, {15, elemento, lugar, 1}};
+    }
     void Arrastra(std::vector<Gesto>& gestos) {
         using enum Que;
         constexpr Que ENMEDIO[] = {Que::Tecla, Que::Menu, Que::Barra, Que::Rueda, Que::Anfitrion, Que::Foco};
-        Varios(gestos, {Pulsa, Mueve});
+        gestos.push_back(Uno(Mueve));
         for (unsigned i = Hasta(4); i > 0; --i)
             gestos.push_back(Uno(Mueve));
         if (Hasta(3) == 0) Varios(gestos, {ENMEDIO[Hasta(std::size(ENMEDIO))], Mueve});
@@ -108,21 +117,26 @@ class Caprichos {
     void Agrega(std::vector<Gesto>& gestos) {
         using enum Que;
         const unsigned suerte = Hasta(100);
-        if (suerte < 16) {
-            // An element is chosen and dragged, or the view's tool; sometimes something comes between.
-            if (Hasta(5) == 0)
-                gestos.push_back({Boton, {0, Hasta(1000), 0, 0}});
-            else
-                gestos.push_back(Uno(Clic));
+        if (suerte < 46 && Hasta(3)) gestos.push_back({Tecla, {}});  // Escape, alone
+        if (suerte < 14) {
+            // An element is chosen and dragged, or its label.
+            gestos.push_back(Izquierdo(Clic, Hasta(1000), Hasta(1000)));
+            gestos.push_back(Izquierdo(Pulsa, ELEGIDO, Hasta(3) ? CENTRO : ETIQUETA));
             Arrastra(gestos);
-        } else if (suerte < 20) {
+        } else if (suerte < 17) {
+            // The view, by one of its tools.
+            Varios(gestos, {Boton, Pulsa});
+            gestos[gestos.size() - 2].n[0] = 0;
+            Arrastra(gestos);
+        } else if (suerte < 22) {
             // A point of a trace.
-            gestos.push_back(Uno(Clic));
+            gestos.push_back(Izquierdo(Clic, Hasta(1000), VERTICE + 5 * Hasta(9)));
             gestos.push_back({Menu, {0, unsigned(ItemDeMenu::menuContextualNodosConduccion), 0, 0}});
             for (int i = 0; i < 2; ++i) {
-                gestos.push_back({Mueve, {0, 0, 2 + 5 * Hasta(9), 1}});
-                gestos.push_back({Pulsa, {7, 0, 2 + 5 * Hasta(9), 1}});
-                Varios(gestos, {Mueve, Mueve, Suelta});
+                const unsigned vertice = VERTICE + 5 * Hasta(9);
+                gestos.push_back(Izquierdo(Mueve, ELEGIDO, vertice));
+                gestos.push_back(Izquierdo(Pulsa, ELEGIDO, vertice));
+                Arrastra(gestos);
             }
         } else if (suerte < 36) {
             // A tool, and clicks until something is created.
@@ -133,7 +147,10 @@ class Caprichos {
             Varios(gestos, {Clic, Menu});
             for (unsigned i = Hasta(4); i > 0; --i)
                 gestos.push_back(Uno(i % 2 ? Clic : Mueve));
-            if (Hasta(3) == 0) Arrastra(gestos);
+            if (Hasta(3) == 0) {
+                gestos.push_back(Uno(Pulsa));
+                Arrastra(gestos);
+            }
         } else {
             constexpr Que SUELTOS[] = {Pulsa,       Mueve,       Mueve,          Mueve,          Suelta,
                                        Clic,        Clic,        Clic,           DobleClic,      Rueda,

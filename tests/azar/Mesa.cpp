@@ -30,7 +30,7 @@ T* Uno(const QList<T*>& lista, unsigned n) {
 
 Qt::KeyboardModifiers Mayus(unsigned n) {
     constexpr Qt::KeyboardModifier TODAS[] = {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier};
-    return n % 4 == 0 ? TODAS[n / 4 % 3] : Qt::KeyboardModifiers{};
+    return n % 4 == 3 ? TODAS[n / 4 % 3] : Qt::KeyboardModifiers{};
 }
 
 }  // namespace
