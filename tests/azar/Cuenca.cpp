@@ -70,18 +70,21 @@ std::shared_ptr<Elementos> Cuenca(bool trabajada) {
     obra.Simbolo(ctNudo, {150, 100});
     obra.Simbolo(ctDemanda, {150, 60});
     obra.Simbolo(ctNudo, {180, 120});
-    if (trabajada)
-        obra.Linea(ctConduccion1, 1, 2, {{30, 100}, {45, 100}});
-    else
-        obra.Linea(ctConduccion1, 1, 2, {});
-    obra.Linea(ctConduccion2, 2, 3, {});
-    obra.Linea(ctConduccion3, 3, 6, {});
-    obra.Linea(ctConduccion4, 6, 8, {});
-    obra.Linea(ctConduccion5, 1, 3, {});
-    obra.Linea(ctRecarga, 2, 5, {});
-    obra.Linea(ctBombeo, 5, 6, {});
-    obra.Linea(ctToma, 3, 4, {});
-    obra.Linea(ctToma, 6, 7, {});
+    const auto linea = [&](TipoElemento tipo, std::int32_t ini, std::int32_t fin, PuntoXY codo) {
+        if (trabajada)
+            obra.Linea(tipo, ini, fin, {codo, {codo.X + 6, codo.Y + 5}});
+        else
+            obra.Linea(tipo, ini, fin, {});
+    };
+    linea(ctConduccion1, 1, 2, {35, 100});
+    linea(ctConduccion2, 2, 3, {75, 120});
+    linea(ctConduccion3, 3, 6, {125, 90});
+    linea(ctConduccion4, 6, 8, {170, 100});
+    linea(ctConduccion5, 1, 3, {60, 135});
+    linea(ctRecarga, 2, 5, {70, 80});
+    linea(ctBombeo, 5, 6, {90, 45});
+    linea(ctToma, 3, 4, {115, 85});
+    linea(ctToma, 6, 7, {165, 80});
     obra.Central(2, 6, {100, 135});
     obra.Propio(ctAportacion, {20, 20}, 1);
     obra.Propio(ctRetorno, {120, 50}, 6);

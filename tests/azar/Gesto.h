@@ -128,14 +128,14 @@ class Caprichos {
             Varios(gestos, {Boton, Pulsa});
             gestos[gestos.size() - 2].n[0] = 0;
             Arrastra(gestos);
-        } else if (suerte < 22) {
-            // A point of a trace.
-            gestos.push_back(Izquierdo(Clic, Hasta(1000), VERTICE + 5 * Hasta(9)));
+        } else if (suerte < 25) {
+            // A point of a trace, on one of the conduits that there are in the beginning.
+            const auto vertice = [this] { return VERTICE + 5 * (1 + Hasta(2)); };
+            gestos.push_back(Izquierdo(Clic, 8 + Hasta(9), vertice()));
             gestos.push_back({Menu, {0, unsigned(ItemDeMenu::menuContextualNodosConduccion), 0, 0}});
             for (int i = 0; i < 2; ++i) {
-                const unsigned vertice = VERTICE + 5 * Hasta(9);
-                gestos.push_back(Izquierdo(Mueve, ELEGIDO, vertice));
-                gestos.push_back(Izquierdo(Pulsa, ELEGIDO, vertice));
+                gestos.push_back(Izquierdo(Mueve, ELEGIDO, vertice()));
+                gestos.push_back(Izquierdo(Pulsa, ELEGIDO, gestos.back().n[2]));
                 Arrastra(gestos);
             }
         } else if (suerte < 36) {

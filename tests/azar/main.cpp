@@ -31,18 +31,20 @@ constexpr int PLAZO = 120'000;  // milliseconds for a session
 // How it begins, after how many gestures the panel is compared (a repaint after each one would hide what
 // shows only after several), and what is done.
 struct Sesion {
-    unsigned principio = 0;
+    Mesa::Principio principio = Mesa::Principio::Vacio;
     unsigned cadaCuantos = 1;
     std::vector<Gesto> gestos;
 };
 
 Sesion SesionDe(unsigned semilla, std::size_t cuantos) {
-    return {semilla % 3, semilla / 3 % 2 ? 1U : 10U, Caprichos(semilla).Gestos(cuantos)};
+    constexpr Mesa::Principio PRINCIPIOS[] = {Mesa::Principio::Vacio, Mesa::Principio::Sencillo,
+                                              Mesa::Principio::Trabajado, Mesa::Principio::Trabajado};
+    return {PRINCIPIOS[semilla % 4], semilla / 4 % 2 ? 1U : 10U, Caprichos(semilla).Gestos(cuantos)};
 }
 
 void Escribe(const Sesion& sesion, const QString& ruta) {
     std::ofstream guion(ruta.toStdString());
-    guion << sesion.principio << ' ' << sesion.cadaCuantos << '\n';
+    guion << static_cast<unsigned>(sesion.principio) << ' ' << sesion.cadaCuantos << '\n';
     for (const Gesto& g : sesion.gestos)
         guion << g << '\n';
 }
@@ -50,8 +52,11 @@ void Escribe(const Sesion& sesion, const QString& ruta) {
 std::optional<Sesion> Lee(const QString& ruta) {
     std::ifstream guion(ruta.toStdString());
     Sesion sesion;
-    guion >> sesion.principio >> sesion.cadaCuantos;
-    if (!guion || sesion.cadaCuantos == 0) return std::nullopt;
+    unsigned principio = 0;
+    guion >> principio >> sesion.cadaCuantos;
+    if (!guion || principio > unsigned(Mesa::Principio::Trabajado) || sesion.cadaCuantos == 0)
+        return std::nullopt;
+    sesion.principio = static_cast<Mesa::Principio>(principio);
     sesion.gestos = LeeGestos(guion);
     if (guion.bad()) return std::nullopt;
     return sesion;
@@ -59,7 +64,7 @@ std::optional<Sesion> Lee(const QString& ruta) {
 
 // What went wrong, and after which gesture; empty when nothing. What the session leaves goes to `restos`.
 std::string Juega(const Sesion& sesion, const QString& restos) {
-    Mesa mesa(static_cast<Mesa::Principio>(sesion.principio % 3));
+    Mesa mesa(sesion.principio);
     Comprobaciones comprobaciones(mesa);
     std::size_t hechos = 0;
     while (hechos < sesion.gestos.size() && mesa.Fallo().empty()) {
