@@ -150,8 +150,13 @@ void Comandos::AceptaColeccion(std::shared_ptr<Elementos> nueva) {
     if (e && !documento_.colElementos->Contiene(e.get())) trabajo_.elemSeleccionado.reset();
     estados_.BorrarVariablesEstado(false);
     trabajo_.trazadoTemporal.reset();
-    trabajo_.interrumpido.reset();
-    trabajo_.iEstadoAnterior = E_PREPARADO;
+    // What a zoom has interrupted may go on where it stands on nothing of the earlier one.
+    const auto& interrumpido = trabajo_.interrumpido;
+    if (interrumpido && interrumpido->iEstado != E_DIBUJANDO &&
+        interrumpido->iEstado != E_ESPERAR_SUBSISTEMA) {
+        trabajo_.interrumpido.reset();
+        trabajo_.iEstadoAnterior = E_PREPARADO;
+    }
     desplazamiento_.NuevoDocumento();
     imagen_.CierraFrame();
     // What these stand on was the earlier one's.

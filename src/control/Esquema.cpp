@@ -87,7 +87,7 @@ qint32 Esquema::SeleccionaElemento(qint32 codigo, bool centrar, const char* sufi
             p.trabajo.elemSeleccionado = e;
             p.estados.RevisaPrompt();
             if (centrar) {
-                p.TambienAlMostrar([&p, x = e->XPos(), y = e->YPos()] { p.vista.MueveScroll(x, y, 2); });
+                p.centroAlMostrar = PuntoXY{e->XPos(), e->YPos()};
                 p.vista.MueveScroll(e->XPos(), e->YPos(), 2);
             }
         }
@@ -358,8 +358,8 @@ bool Esquema::CambiaZoom(double factor) {
     p.ExigeDisposicion();
     const bool hecho = p.vista.AjustarZoomUsuario(p.panel->lienzo(),
                                                   static_cast<float>(p.vista.Zoom() * factor), true, true, 1);
-    // The zoom is of areas. What has been told once already is not told again by a box.
-    if (hecho) p.TambienAlMostrar([&p, factor] { p.vista.AmpliaEn(1 / std::sqrt(factor), {0.5F, 0.5F}); });
+    // The zoom is of areas.
+    if (hecho) p.vecesAlMostrar /= std::sqrt(factor);
     return hecho;
 }
 

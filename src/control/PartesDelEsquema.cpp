@@ -333,11 +333,8 @@ void Esquema::Partes::ExigeDisposicion() {
 void Esquema::Partes::DisponeAlMostrar(AlMostrar que) {
     if (seHaMostrado) return;
     alMostrar = que;
-    trasDisponer.clear();
-}
-
-void Esquema::Partes::TambienAlMostrar(std::function<void()> accion) {
-    if (!seHaMostrado) trasDisponer.push_back(std::move(accion));
+    vecesAlMostrar = 1;
+    centroAlMostrar.reset();
 }
 
 void Esquema::Partes::AjustaAlMostrarSiHaceFalta() {
@@ -350,8 +347,8 @@ void Esquema::Partes::AjustaAlMostrarSiHaceFalta() {
         UserControl_Resize();
         vista.DisponeDeNuevo(panel->AnchoMm(), panel->AltoMm());
         if (que == AlMostrar::Ajusta) vista.AjustarImagen(panel->lienzo(), 2);
-        for (const auto& haz : std::exchange(trasDisponer, {}))
-            haz();
+        vista.AmpliaEn(vecesAlMostrar, {0.5F, 0.5F});
+        if (centroAlMostrar) vista.MueveScroll(centroAlMostrar->X, centroAlMostrar->Y, 2);
         refresco.RefrescarSiPendiente();
     });
 }

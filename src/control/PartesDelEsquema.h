@@ -140,9 +140,8 @@ struct Esquema::Partes : public Anfitrion {
     // What the first show does to the view, whose size is final then: lays it out as the first time, fits the
     // schematic into it, or leaves it as it has been chosen.
     enum class AlMostrar { Dispone, Ajusta, Nada };
-    // Before the first show: what it does to the view, and what is done again then.
+    // Before the first show: what it does to the view. What is chosen after that is done again then.
     void DisponeAlMostrar(AlMostrar que);
-    void TambienAlMostrar(std::function<void()> accion);
     // What is typed at the panel or a button, and what tells that typing is over; see TeclasDelEsquema.cpp.
     bool AtiendeTeclasDe(const QObject* objeto) const;
     void AtiendeTeclado(const QEvent& evento);
@@ -199,8 +198,9 @@ struct Esquema::Partes : public Anfitrion {
     bool disponiendo = false;
     bool refrescoPrevisto = false;
     AlMostrar alMostrar = AlMostrar::Dispone;
-    // What the host has done to the view since it was laid out, to be done again at the first show.
-    std::vector<std::function<void()>> trasDisponer;
+    // What the host has done to the view since then: the zoom, in lengths, and what was centred last.
+    double vecesAlMostrar = 1;
+    std::optional<PuntoXY> centroAlMostrar;
     bool seHaMostrado = false;
     // A key that is held, and was pressed here: its code and mask then.
     struct TeclaVista {

@@ -11,6 +11,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <exception>
+#include <initializer_list>
+#include <iterator>
 #include <memory>
 #include <tuple>
 #include <utility>
@@ -34,6 +36,8 @@ struct SueltaContexto {
 // format has some sixty names, and no namespaces.
 constexpr int MAXIMO_DE_NOMBRES = 20000;
 constexpr int MAXIMO_DE_ESPACIOS = 256;
+// Families of encodings with ASCII for their first half.
+constexpr std::string_view ANTES_DE_SU_NUMERO[] = {"ISO8859", "LATIN", "ISOLATIN", "WINDOWS125", "CP125"};
 constexpr const char* DEMASIADOS_ATRIBUTOS = "una etiqueta tiene demasiados atributos";
 
 // The vocabulary by the parser's own copies of its names.
@@ -76,7 +80,7 @@ struct Analisis {
     UnidadXml unidad;
     CuentaAtributos atributos{unidad};
     const Vocabulario* vocabulario = nullptr;
-    int espacios = 0;
+    bool conMarcaUtf8 = false;  // what is declared does not count then
     std::string motivo{};
     std::exception_ptr excepcion{};  // the listener's
 
@@ -129,17 +133,28 @@ void MiraLosNombres(void* contexto) {
 }
 
 // Whether it is an encoding in which the attributes can be counted: with ASCII for its first half, or of the
-// two bytes that the file begins with.
-bool SeAdmite(std::string codificacion, UnidadXml unidad) {
-    for (char& c : codificacion)
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - ('a' - 'A'));
-    if (unidad != UnidadXml::Byte) return codificacion == "UTF-16";
-    for (const char* entera : {"UTF-8", "UTF8", "US-ASCII", "ASCII"})
-        if (codificacion == entera) return true;
-    return codificacion.starts_with("ISO-8859-") || codificacion.starts_with("WINDOWS-125");
+// two bytes that the file begins with (which then hold, whatever is declared). Names are written in many
+// ways.
+bool SeAdmite(std::string_view declarada, UnidadXml unidad) {
+    std::string codificacion;
+    for (const char c : declarada) {
+        if (c == '-' || c == '_') continue;
+        codificacion += c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
+    }
+    const auto es = [&](std::initializer_list<std::string_view> nombres) {
+        return std::find(nombres.begin(), nombres.end(), codificacion) != nombres.end();
+    };
+    if (unidad != UnidadXml::Byte) {
+        return es(
+            {"UTF16", "UTF8", "UCS2", "ISO10646UCS2", unidad == UnidadXml::Utf16Le ? "UTF16LE" : "UTF16BE"});
+    }
+    if (es({"UTF8", "ASCII", "USASCII", "CP850", "IBM850", "MACINTOSH"})) return true;
+    return std::any_of(std::begin(ANTES_DE_SU_NUMERO), std::end(ANTES_DE_SU_NUMERO),
+                       [&](std::string_view principio) { return codificacion.starts_with(principio); });
 }
 
 void AlEmpezarDocumento(void* contexto) {
+    if (AnalisisDe(contexto).conMarcaUtf8) return;
     const auto* c = static_cast<xmlParserCtxt*>(contexto);
     for (const xmlChar* declarada : {c->encoding, c->input ? c->input->encoding : nullptr}) {
         if (!declarada) continue;
@@ -148,11 +163,12 @@ void AlEmpezarDocumento(void* contexto) {
     }
 }
 
-void AlEmpezarElemento(void* contexto, const xmlChar* nombre, const xmlChar* prefijo, const xmlChar*,
-                       int espacios, const xmlChar**, int atributos, int, const xmlChar**) {
+void AlEmpezarElemento(void* contexto, const xmlChar* nombre, const xmlChar* prefijo, const xmlChar*, int,
+                       const xmlChar**, int atributos, int, const xmlChar**) {
     MiraLosNombres(contexto);
     if (atributos > CuentaAtributos::MAXIMO) Detiene(contexto, DEMASIADOS_ATRIBUTOS);
-    if ((AnalisisDe(contexto).espacios += espacios) > MAXIMO_DE_ESPACIOS)
+    // Two entries for each that is in scope, this element's among them.
+    if (static_cast<xmlParserCtxt*>(contexto)->nsNr / 2 > MAXIMO_DE_ESPACIOS)
         Detiene(contexto, "el documento usa demasiados espacios de nombres");
     Avisa(contexto, [&](Analisis& a) {
         a.oyente.AlAbrir(prefijo ? -1 : a.vocabulario->NumeroDe(nombre),
@@ -319,11 +335,12 @@ bool LectorXml::Lee(const std::string& nombreArchivo, OyenteXml& oyente) {
     }
     const Vocabulario vocabulario(vocabulario_, contexto->dict);
     analisis.vocabulario = &vocabulario;
+    analisis.conMarcaUtf8 = principio.codificacion != nullptr;
     const EscuchaFallos escucha(analisis);
     contexto->_private = &analisis;
     PonLlamadas(*contexto->sax);
     xmlFreeDoc(xmlCtxtReadIO(contexto.get(), LeeTrozo, nullptr, &analisis, nullptr, principio.codificacion,
-                             XML_PARSE_NONET));
+                             XML_PARSE_NONET | (analisis.conMarcaUtf8 ? XML_PARSE_IGNORE_ENC : 0)));
     if (analisis.excepcion) std::rethrow_exception(analisis.excepcion);
     if (std::ferror(archivo.get()) != 0)
         motivo_ = Fallo(75).Description();

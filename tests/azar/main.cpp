@@ -91,7 +91,9 @@ std::string EnOtroProceso(const QStringList& argumentos) {
         return "does not end";
     }
     if (otro.exitStatus() == QProcess::NormalExit && otro.exitCode() == 0) return {};
-    if (otro.exitStatus() == QProcess::NormalExit) return otro.readAllStandardOutput().toStdString();
+    const std::string fallo = otro.readAllStandardOutput().toStdString();
+    if (otro.exitStatus() == QProcess::NormalExit && !fallo.empty()) return fallo;
+    // A crash, or what a sanitizer found.
     return "crash: " + otro.readAllStandardError().right(3000).toStdString();
 }
 
