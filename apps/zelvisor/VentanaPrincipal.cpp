@@ -24,7 +24,6 @@ namespace {
 
 constexpr double ACERCA = 0.5;  // of the visible area
 constexpr double ALEJA = 2.0;
-constexpr int MIRA_CAMBIOS_MS = 200;
 constexpr QSize TAMANYO{1280, 860};
 constexpr QSize TAMANYO_MINIMO{640, 480};
 constexpr double PARTE_DE_LA_PANTALLA = 0.9;  // at most; the frame takes some
@@ -66,10 +65,7 @@ void VentanaPrincipal::AtiendeAlControl() {
             [this](qint32& codigo) { DiloSiFalla([&] { adjuntos_.Adjunta(codigo); }); });
     connect(esquema_, &Esquema::AdjuntarVer, this,
             [this](qint32& codigo) { DiloSiFalla([&] { adjuntos_.Muestra(codigo); }); });
-    // The control tells most changes, but not all of them, and some before they are made.
-    auto* reloj = new QTimer(this);
-    connect(reloj, &QTimer::timeout, this, [this] { setWindowModified(esquema_->bHabidoCambios()); });
-    reloj->start(MIRA_CAMBIOS_MS);
+    connect(esquema_, &Esquema::HabidoCambios, this, &QWidget::setWindowModified);
 }
 
 template <typename Orden>

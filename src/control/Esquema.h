@@ -262,6 +262,10 @@ class Esquema : public QFrame {
     void ElementoMovido(qint32& gfCodSIG, std::shared_ptr<zel::Elemento>& elem);
     void ElementoModificado(qint32& gfCodSIG, std::shared_ptr<zel::Elemento>& elem);
 
+    // The changed mark (`bHabidoCambios`) has turned, whoever has turned it. It comes when the events in
+    // waiting are through, once for all that was done till then.
+    void HabidoCambios(bool hay);
+
     // A failure in answer to the platform (a click, a key, a resize) rather than to a call of the host.
     void ErrorEnEvento(qint32 Number, const QString& Source, const QString& Description);
 

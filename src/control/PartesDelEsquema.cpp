@@ -118,6 +118,7 @@ void Esquema::Partes::Conecta() {
     QObject::connect(panel, &PanelDibujo::Redimensionado, &esquema,
                      [this] { EnEventoSinCajas([this] { UserControl_Resize(); }); });
     refresco.AlAtrasarse([this] { RefrescaCuandoHayaCalma(); });
+    documento.bHabidoCambios.AlCambiar([this] { DiCambiosCuandoHayaCalma(); });
     QObject::connect(panel, &PanelDibujo::GanaFoco, &esquema,
                      [this] { EnEntradaSinCajas([this] { herramientas.Panel_GotFocus(); }); });
     QObject::connect(panel, &PanelDibujo::PierdeFoco, &esquema,
@@ -246,6 +247,16 @@ void Esquema::Partes::RefrescaCuandoHayaCalma() {
     QTimer::singleShot(0, &esquema, [this] {
         refrescoPrevisto = false;
         if (PuedeRefrescarse() && refresco.Atrasado()) EnEvento([this] { RefrescaEnCalma(); });
+    });
+}
+
+void Esquema::Partes::DiCambiosCuandoHayaCalma() {
+    if (cambiosPrevistos || trabajo.bTerminado) return;
+    cambiosPrevistos = true;
+    QTimer::singleShot(0, &esquema, [this] {
+        cambiosPrevistos = false;
+        const bool hay = documento.bHabidoCambios;
+        if (std::exchange(cambiosDichos, hay) != hay) emit esquema.HabidoCambios(hay);
     });
 }
 

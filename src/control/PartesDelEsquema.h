@@ -107,6 +107,8 @@ struct Esquema::Partes : public Anfitrion {
     // A repaint that was asked for, by an event or a call, and that nobody performs, is performed once the
     // events in waiting are through, unless a drag or a load is under way then.
     void RefrescaCuandoHayaCalma();
+    // Likewise the changed mark, if it has turned since it was last told.
+    void DiCambiosCuandoHayaCalma();
     bool PuedeRefrescarse() const noexcept;
     void RefrescaEnCalma();
     // Raises when the host has destroyed the control meanwhile.
@@ -197,6 +199,8 @@ struct Esquema::Partes : public Anfitrion {
     bool bAjustandoVentana = false;
     bool disponiendo = false;
     bool refrescoPrevisto = false;
+    bool cambiosPrevistos = false;
+    bool cambiosDichos = false;  // the mark, as the host knows it
     AlMostrar alMostrar = AlMostrar::Dispone;
     // What the host has done to the view since then: the zoom, in lengths, and what was centred last.
     double vecesAlMostrar = 1;

@@ -2,12 +2,29 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "drawing/IndiceDeElementos.h"
 #include "model/Elementos.h"
 
 namespace zel {
+
+// The changed mark: a flag that tells when it turns, whoever has turned it.
+class MarcaDeCambios {
+  public:
+    operator bool() const noexcept { return valor_; }
+    MarcaDeCambios& operator=(bool valor) {
+        if (std::exchange(valor_, valor) != valor && alCambiar_) alCambiar_();
+        return *this;
+    }
+    void AlCambiar(std::function<void()> accion) { alCambiar_ = std::move(accion); }
+
+  private:
+    bool valor_ = false;
+    std::function<void()> alCambiar_;
+};
 
 // The schematic that is shown and edited.
 struct Documento {
@@ -16,7 +33,7 @@ struct Documento {
     mutable IndiceDeElementos indice;
     bool bMostrarLineasOcultas = true;
     bool bMostrarEtiquetas = true;
-    bool bHabidoCambios = false;  // since it was last opened or saved
+    MarcaDeCambios bHabidoCambios;  // since it was last opened or saved
 
     // The highest number on the screen of each kind; reservoirs share the nodes'.
     std::array<std::int16_t, NUMERO_DE_TIPOS> UltimoKeyPant{};

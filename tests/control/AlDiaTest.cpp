@@ -201,6 +201,36 @@ TEST_F(AlDia, ASelectedTakeWithoutATraceIsToldOnceInEachPaint) {
     esquema.Refresh();
 }
 
+TEST_F(AlDia, TheChangedMarkIsToldWhenItTurns) {
+    QApplication::processEvents();
+    std::string dichas;
+    QObject::connect(&esquema, &Esquema::HabidoCambios,
+                     [&](bool hay) { dichas += hay == esquema.bHabidoCambios() ? (hay ? "1" : "0") : "?"; });
+    const auto tras = [&](const std::function<void()>& accion) {
+        accion();
+        EXPECT_EQ(dichas, "") << "the platform may be in the middle of something";
+        QApplication::processEvents();
+        return std::exchange(dichas, "");
+    };
+    esquema.bHabidoCambios(false);
+    QApplication::processEvents();
+    dichas.clear();
+    const auto mueve = [this] {
+        Clic({20, 20});
+        Arrastra({{20, 20}, {30, 30}});
+    };
+    EXPECT_EQ(tras(mueve), "1");
+    EXPECT_EQ(tras([this] { Arrastra({{30, 30}, {20, 20}}); }), "");
+    EXPECT_EQ(tras([this] { esquema.ArchivoGuardar(u"a.xml"_s); }), "0");
+    EXPECT_EQ(tras([this] {
+                  esquema.bHabidoCambios(true);
+                  esquema.bHabidoCambios(false);
+              }),
+              "");
+    EXPECT_EQ(tras([this] { esquema.bHabidoCambios(true); }), "1");
+    EXPECT_EQ(tras([this] { esquema.ArchivoAbrir(u"a.xml"_s); }), "0");
+}
+
 TEST_F(AlDia, TheFrameOfAPictureThatIsReplacedLeavesNothingBehind) {
     QImage(4, 4, QImage::Format_RGB32).save(u"plano.bmp"_s);
     dialogos.ResponderArchivo((carpeta / "plano.bmp").string());

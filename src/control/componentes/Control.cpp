@@ -77,6 +77,7 @@ constexpr AyudaDeNombre AYUDAS[] = {
     {"AdjuntarVer", "Se pide ver los documentos de un elemento: código"},
     {"ElementoMovido", "Se ha movido un elemento: código, el Elemento"},
     {"ElementoModificado", "Se ha modificado un elemento: código, el Elemento"},
+    {"HabidoCambios", "El esquema tiene cambios sin guardar, o ha dejado de tenerlos"},
     {"ErrorEnEvento", "Ha fallado la respuesta al ratón o al teclado: número, origen, descripción"},
 };
 
