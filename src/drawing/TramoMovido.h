@@ -13,8 +13,8 @@ namespace zel {
 struct TramoMovido {
     std::shared_ptr<Puntos> tramo;
     std::shared_ptr<Elemento> elemento;  // whose trace it is
-    std::int32_t codigoLejano =
-        0;  // the element at the other end of a trace of two points; 0 for longer ones
+    // The element at the other end of a trace of two points; 0 for longer ones.
+    std::int32_t codigoLejano = 0;
 };
 
 }  // namespace zel

@@ -35,7 +35,7 @@ class DiarioDeCambios {
     void Pierde() noexcept;
 
     std::vector<Cambio> cambios_;
-    std::uint64_t primero_ = 1;  // the number of the first one kept; 0 is nobody's
+    std::uint64_t primero_ = 1;  // the number of the first one kept; none has 0
     std::size_t limite_ = 0;
     mutable std::uint64_t leido_ = 0;  // the highest number read up to
     mutable bool conLectores_ = false;

@@ -28,8 +28,8 @@ class UsoDeTrazado {
   private:
     friend class Puntos;
     const Elemento* elemento_ = nullptr;
-    UsoDeTrazado** enlace_ =
-        nullptr;  // what points to this one: the trace or the use before; null when unused
+    // What points to this one: the trace, or the use before; null when unused.
+    UsoDeTrazado** enlace_ = nullptr;
     UsoDeTrazado* siguiente_ = nullptr;
 };
 
