@@ -20,7 +20,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// What is free has no end of its own in a file of another name.
 const char* const ESQUEMA = "esquema.xml";
 
 template <typename T>
@@ -38,7 +37,7 @@ Qt::KeyboardModifiers Mayus(unsigned n) {
 void Respuestas::MsgBox(const std::string& texto, const std::string&) {
     // What the control tells a user has no trail of failures; a schematic in order is drawn whole.
     if (fallo.empty() &&
-        (texto.find("Estado de visor") != std::string::npos || texto.starts_with("No se ha podido dibujar")))
+        (texto.find("Estado de visor") != std::string::npos || texto.find("(elemento ") != std::string::npos))
         fallo = "box: " + texto;
     QApplication::processEvents();
 }
